@@ -1,0 +1,86 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The one way to declare a folder of the house. Each call makes one static library with exactly the
+# links that it names, and adds the folder's row to build/<preset>/arrows.txt, which
+# tests/architecture compares with the includes.
+
+set_property(GLOBAL PROPERTY TESSALY_ARROWS "")
+
+function(tessaly_target_of FOLDER RESULT)
+    string(REPLACE "/" "_" name "tessaly_${FOLDER}")
+    set(${RESULT} "${name}" PARENT_SCOPE)
+endfunction()
+
+# Refuses what no later check could see: Widgets below ui/, and an arrow between ui/ and platform/.
+function(tessaly_check_arrows FOLDER USES QT)
+    if(FOLDER MATCHES "^(core|platform|app/CommandLine)" AND QT MATCHES "Widgets|PrintSupport|Test")
+        message(FATAL_ERROR "${FOLDER} must not use Qt ${QT}")
+    endif()
+    foreach(used IN LISTS USES)
+        if(FOLDER MATCHES "^core" AND NOT used MATCHES "^core")
+            message(FATAL_ERROR "${FOLDER} may only use core, not ${used}")
+        elseif(FOLDER MATCHES "^(ui|platform)" AND used MATCHES "^(ui|platform|app)")
+            string(REGEX MATCH "^[a-z]+" layer "${FOLDER}")
+            if(NOT used MATCHES "^${layer}")
+                message(FATAL_ERROR "${FOLDER} must not use ${used}")
+            endif()
+        endif()
+    endforeach()
+endfunction()
+
+# tessaly_module(core/Export USES core/Annotation … QT Gui LIBS deflate … SOURCES A.cpp … MOC A.h …)
+function(tessaly_module FOLDER)
+    cmake_parse_arguments(ARG "" "" "USES;QT;LIBS;SOURCES;MOC" ${ARGN})
+    tessaly_check_arrows("${FOLDER}" "${ARG_USES}" "${ARG_QT}")
+    tessaly_target_of("${FOLDER}" target)
+    if(ARG_MOC)
+        qt6_wrap_cpp(moc_sources ${ARG_MOC} TARGET ${target})
+    endif()
+    add_library(${target} STATIC ${ARG_SOURCES} ${moc_sources})
+    target_include_directories(${target} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(${target} PUBLIC tessaly_options Qt6::Core)
+    foreach(module IN LISTS ARG_QT)
+        target_link_libraries(${target} PUBLIC Qt6::${module})
+    endforeach()
+    foreach(used IN LISTS ARG_USES)
+        tessaly_target_of("${used}" used_target)
+        target_link_libraries(${target} PUBLIC ${used_target})
+    endforeach()
+    target_link_libraries(${target} PRIVATE ${ARG_LIBS})
+    tessaly_precompile(${target} "${ARG_QT}")
+    list(JOIN ARG_USES " " uses)
+    list(JOIN ARG_QT " " qt)
+    set_property(GLOBAL APPEND PROPERTY TESSALY_ARROWS "${FOLDER}: ${uses} | Core ${qt}")
+endfunction()
+
+# Two shared precompiled headers: Qt Core with the standard library, and the same with Qt Gui.
+function(tessaly_precompile TARGET QT)
+    if("Gui" IN_LIST QT)
+        target_precompile_headers(${TARGET} REUSE_FROM tessaly_pch_gui)
+    else()
+        target_precompile_headers(${TARGET} REUSE_FROM tessaly_pch_core)
+    endif()
+endfunction()
+
+function(tessaly_write_arrows)
+    get_property(rows GLOBAL PROPERTY TESSALY_ARROWS)
+    list(JOIN rows "\n" text)
+    file(WRITE "${CMAKE_BINARY_DIR}/arrows.txt" "${text}\n")
+endfunction()
+
+# tessaly_test(core/Export SOURCES ATest.cpp … LIBS …): one program per folder and test class, linking that folder,
+# tests/support and Qt Test only. The test is named after the folder and the class.
+function(tessaly_test FOLDER)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    tessaly_target_of("${FOLDER}" module)
+    foreach(source IN LISTS ARG_SOURCES)
+        get_filename_component(name "${source}" NAME_WE)
+        set(target "test_${name}")
+        add_executable(${target} ${source})
+        set_target_properties(${target} PROPERTIES AUTOMOC ON)
+        target_link_libraries(${target} PRIVATE ${module} tessaly_test_support Qt6::Test ${ARG_LIBS})
+        target_precompile_headers(${target} REUSE_FROM tessaly_pch_test)
+        add_test(NAME "${FOLDER}/${name}" COMMAND ${target})
+        set_tests_properties("${FOLDER}/${name}" PROPERTIES TIMEOUT 300 ENVIRONMENT
+            "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.txt:print_suppressions=0")
+    endforeach()
+endfunction()

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Annotation/Annotation.h"
+
+/// A stored mark may hold any number; these are the numbers that can be drawn.
+namespace tessaly::MarkLimits {
+
+/// The farthest that a point may lie from the picture's origin, in points.
+inline constexpr double maxCoordinate = 1e6;
+
+/// What is out of range in a mark, as the end of a sentence ("its highlightOpacity is 7"); empty when all is well.
+std::optional<QString> problem(const Annotation &mark);
+
+/// The mark with its style brought into range; empty when it lies where nothing can be drawn.
+std::optional<Annotation> drawable(const Annotation &mark);
+
+} // namespace tessaly::MarkLimits

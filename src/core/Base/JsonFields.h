@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Base/EnumNames.h"
+#include "core/Base/Result.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QLatin1StringView>
+
+#include <tuple>
+
+/// Records and their JSON by one table: each row is a key and a pointer to a member, read and written by the same row.
+namespace tessaly::json {
+
+/// How one type stands in JSON. `read` is false when the value is of another type; `write` may give an undefined
+/// value, which leaves the key out. Other types specialise it beside their declaration.
+template <class T>
+struct Codec;
+
+template <>
+struct Codec<bool> {
+    static bool read(const QJsonValue &value, bool &target)
+    {
+        target = value.toBool();
+        return value.isBool();
+    }
+    static QJsonValue write(bool value) { return value; }
+};
+
+template <>
+struct Codec<double> {
+    static bool read(const QJsonValue &value, double &target)
+    {
+        target = value.toDouble();
+        return value.isDouble();
+    }
+    static QJsonValue write(double value) { return value; }
+};
+
+template <>
+struct Codec<QString> {
+    static bool read(const QJsonValue &value, QString &target)
+    {
+        target = value.toString();
+        return value.isString();
+    }
+    static QJsonValue write(const QString &value) { return value; }
+};
+
+/// Bytes stand as Base64 text.
+template <>
+struct Codec<QByteArray> {
+    static bool read(const QJsonValue &value, QByteArray &target)
+    {
+        auto decoded = QByteArray::fromBase64Encoding(value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+        target = std::move(*decoded);
+        return value.isString() && decoded.decodingStatus == QByteArray::Base64DecodingStatus::Ok;
+    }
+    static QJsonValue write(const QByteArray &value) { return QString::fromLatin1(value.toBase64()); }
+};
+
+/// An absent value leaves its key out; `null` reads as absent.
+template <class T>
+struct Codec<std::optional<T>> {
+    static bool read(const QJsonValue &value, std::optional<T> &target)
+    {
+        target.reset();
+        return value.isNull() || Codec<T>::read(value, target.emplace());
+    }
+    static QJsonValue write(const std::optional<T> &value)
+    {
+        return value ? Codec<T>::write(*value) : QJsonValue(QJsonValue::Undefined);
+    }
+};
+
+template <class T>
+struct Codec<QList<T>> {
+    static bool read(const QJsonValue &value, QList<T> &target)
+    {
+        const QJsonArray array = value.toArray();
+        target.clear();
+        target.reserve(array.size());
+        for (const QJsonValue &element : array) {
+            if (!Codec<T>::read(element, target.emplace_back()))
+                return false;
+        }
+        return value.isArray();
+    }
+    static QJsonValue write(const QList<T> &value)
+    {
+        QJsonArray array;
+        for (const T &element : value)
+            array.append(Codec<T>::write(element));
+        return array;
+    }
+};
+
+/// Enumerations stand as their raw text; an unknown text is of another type.
+template <class Enum>
+    requires std::is_enum_v<Enum>
+struct Codec<Enum> {
+    static bool read(const QJsonValue &value, Enum &target)
+    {
+        const auto known = enumFromRaw<Enum>(value.toString());
+        target = known.value_or(target);
+        return value.isString() && known.has_value();
+    }
+    static QJsonValue write(Enum value) { return rawValue(value); }
+};
+
+template <class Record, class Member>
+struct Field {
+    const char *key;
+    Member Record::*member;
+};
+template <class Record, class Member>
+Field(const char *, Member Record::*) -> Field<Record, Member>;
+
+/// Reads every key that is present over what `record` holds; a missing key changes nothing.
+/// The result is the first key whose value is of another type, or null.
+template <class Record, class... Fields>
+const char *readOver(Record &record, const QJsonObject &object, const std::tuple<Fields...> &fields)
+{
+    const char *wrongKey = nullptr;
+    const auto readOne = [&](const auto &field) {
+        const auto found = object.constFind(QLatin1StringView(field.key));
+        if (wrongKey || found == object.constEnd())
+            return;
+        using Member = std::remove_reference_t<decltype(record.*field.member)>;
+        if (!Codec<Member>::read(found.value(), record.*field.member))
+            wrongKey = field.key;
+    };
+    std::apply([&](const auto &...field) { (readOne(field), ...); }, fields);
+    return wrongKey;
+}
+
+template <class Record, class... Fields>
+QJsonObject write(const Record &record, const std::tuple<Fields...> &fields)
+{
+    QJsonObject object;
+    const auto writeOne = [&](const auto &field) {
+        using Member = std::remove_cvref_t<decltype(record.*field.member)>;
+        const QJsonValue value = Codec<Member>::write(record.*field.member);
+        if (!value.isUndefined())
+            object.insert(QLatin1StringView(field.key), value);
+    };
+    std::apply([&](const auto &...field) { (writeOne(field), ...); }, fields);
+    return object;
+}
+
+} // namespace tessaly::json

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Frame/FrameStyle.h"
+
+#include <QCoreApplication>
+
+namespace tessaly {
+
+static constexpr std::tuple fields {
+    json::Field { "background", &FrameStyle::background },
+    json::Field { "gradientColors", &FrameStyle::gradientColors },
+    json::Field { "solidHex", &FrameStyle::solidHex },
+    json::Field { "padding", &FrameStyle::padding },
+    json::Field { "cornerRadius", &FrameStyle::cornerRadius },
+    json::Field { "shadow", &FrameStyle::shadow },
+    json::Field { "aspect", &FrameStyle::aspect },
+};
+
+QJsonObject FrameStyle::toJson() const { return json::write(*this, fields); }
+
+Result<FrameStyle> FrameStyle::fromJson(const QJsonObject &object)
+{
+    FrameStyle style;
+    if (const char *key = json::readOver(style, object, fields))
+        return Failure { QCoreApplication::translate("FrameStyle", "The frame's “%1” has a value of the wrong type.").arg(QLatin1StringView(key)) };
+    return style;
+}
+
+QString FrameStyle::gradientName(QStringView identifier)
+{
+    for (const Gradient &gradient : gradients) {
+        if (identifier == QLatin1StringView(gradient.identifier))
+            return QCoreApplication::translate("FrameStyle", gradient.name);
+    }
+    return QCoreApplication::translate("FrameStyle", gradients.back().name);
+}
+
+bool json::Codec<FrameStyle>::read(const QJsonValue &value, FrameStyle &target)
+{
+    const auto style = FrameStyle::fromJson(value.toObject());
+    if (!value.isObject() || !style)
+        return false;
+    target = *style;
+    return true;
+}
+
+} // namespace tessaly

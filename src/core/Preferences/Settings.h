@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Base/Result.h"
+#include "core/Preferences/SettingKeys.h"
+
+#include <QJsonObject>
+
+namespace tessaly {
+
+/// The user's settings: a flat JSON object in one file. Only what differs from its default is stored; keys that this
+/// version does not know are kept. A stored value of another type reads as the default. Main thread only.
+class Settings {
+public:
+    /// Reads the file at `path`. A file that is not there is no settings; one that cannot be read leaves the defaults,
+    /// and `problem()` says so. With an empty path nothing is read and nothing ever written.
+    explicit Settings(QString path);
+
+    /// "tessaly/settings.json" in the user's configuration folder.
+    static QString defaultPath();
+
+    bool value(const SettingKey<bool> &key) const;
+    double value(const SettingKey<double> &key) const;
+    QString value(const SettingKey<const char *> &key) const;
+    std::optional<QByteArray> value(const SettingKey<SettingKeys::Bytes> &key) const;
+
+    /// Store and write the file whole. A file that could not be read is put aside before the first write.
+    Outcome set(const SettingKey<bool> &key, bool value);
+    Outcome set(const SettingKey<double> &key, double value);
+    Outcome set(const SettingKey<const char *> &key, const QString &value);
+    Outcome set(const SettingKey<SettingKeys::Bytes> &key, const QByteArray &value);
+
+    /// Why the stored settings could not be read; empty when they could.
+    const std::optional<Failure> &problem() const { return m_problem; }
+
+private:
+    Outcome store(const char *key, const QJsonValue &value, const QJsonValue &fallback);
+
+    QString m_path;
+    QJsonObject m_values;
+    std::optional<Failure> m_problem;
+};
+
+} // namespace tessaly
