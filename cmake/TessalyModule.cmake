@@ -78,7 +78,7 @@ function(tessaly_test FOLDER)
         add_executable(${target} ${source})
         set_target_properties(${target} PROPERTIES AUTOMOC ON)
         target_link_libraries(${target} PRIVATE ${module} tessaly_test_support Qt6::Test ${ARG_LIBS})
-        target_precompile_headers(${target} REUSE_FROM tessaly_pch_test)
+        target_precompile_headers(${target} REUSE_FROM tessaly_pch_gui)
         add_test(NAME "${FOLDER}/${name}" COMMAND ${target})
         set_tests_properties("${FOLDER}/${name}" PROPERTIES TIMEOUT 300 ENVIRONMENT
             "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.txt:print_suppressions=0")
