@@ -15,7 +15,7 @@ namespace tessaly {
 namespace {
 
 constexpr std::size_t terminalColumns = 80;
-constexpr std::size_t helpColumn = 26;
+constexpr std::size_t helpColumn = 28;
 
 /// Breaks a help text so that it fits the space right of the option names.
 std::string wrapped(const char *text)
@@ -51,12 +51,29 @@ std::optional<qint64> wholeNumber(const QString &text)
     return ok ? std::optional(value) : std::nullopt;
 }
 
-/// The parser's message as one sentence that ends with where the help is.
-QString sentenceOf(const CLI::Error &error, const QString &command)
-{
-    const QString message = QString::fromLocal8Bit(error.what()).simplified();
-    return Text::tr("%1 (see %2 --help).").arg(message, command);
-}
+/// The parser's pages, with air after the summary and the options that must be given in the usage line.
+class HelpPages final : public CLI::Formatter {
+public:
+    HelpPages()
+    {
+        column_width(helpColumn);
+        label("SUBCOMMAND", "COMMAND");
+        label("Positionals", "Arguments");
+    }
+
+    std::string make_description(const CLI::App *app) const override { return app->get_description() + ".\n\n"; }
+
+    std::string make_usage(const CLI::App *app, std::string name) const override
+    {
+        std::string usage = CLI::Formatter::make_usage(app, std::move(name));
+        usage.pop_back(); // its line break
+        for (const CLI::Option *option : app->get_options()) {
+            if (option->get_required() && !option->get_positional())
+                usage += " -" + option->get_snames().front() + ' ' + option->get_option_text();
+        }
+        return usage + '\n';
+    }
+};
 
 /// The full name of the command that the arguments got to: "tessaly capture full-screen".
 QString nameOf(const CLI::App &app)
@@ -67,21 +84,30 @@ QString nameOf(const CLI::App &app)
     return name;
 }
 
+/// What is wrong with the arguments, as one sentence that ends with where the help is. An argument that nothing took
+/// explains more than what the parser misses because of it.
+QString sentenceOf(const CLI::Error &error, const CLI::App &app)
+{
+    const auto strangers = app.remaining(true);
+    const QString message = strangers.empty()
+        ? QString::fromLocal8Bit(error.what())
+              .simplified()
+              .replace(QLatin1StringView("subcommand"), QLatin1StringView("command"))
+        : Text::tr("\"%1\" is not known here").arg(fromArgument(strangers.front()));
+    return Text::tr("%1 (see %2 --help).").arg(message, nameOf(app));
+}
+
 } // namespace
 
 struct CommandOptions::Parser {
-    CLI::App app { "Screenshots with marks, frames and watermarks, from the command line.", "tessaly" };
+    CLI::App app { "Screenshots with marks, frames and watermarks, from the command line", "tessaly" };
     CommandBody chosen;
 
     explicit Parser(std::span<const Command> commands)
     {
-        app.get_formatter()->column_width(helpColumn);
-        app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-        app.get_formatter()->label("Positionals", "Arguments");
+        app.formatter(std::make_shared<HelpPages>());
         app.set_help_flag("-h,--help", "Print this help and exit");
         app.set_version_flag("--version", TessalyDocument::generator().toStdString(), "Print the version and exit");
-        app.footer("Each command has its own help: tessaly COMMAND --help\n"
-                   "Exit status: 0 done, 1 the work failed, 2 wrong usage.");
         CommandOptions(app, chosen).commands(commands);
     }
 };
@@ -93,7 +119,7 @@ CLI::Option &CommandOptions::add(
 {
     const auto set = [take = std::move(take)](const std::string &value) { take(fromArgument(value)); };
     CLI::Option *option = m_app.add_option_function<std::string>(flags, set, wrapped(help));
-    option->option_text(shape);
+    option->option_text(shape)->type_name("value");
     return *option;
 }
 
@@ -158,8 +184,12 @@ void CommandOptions::flag(bool &target, const char *flags, const char *help)
 void CommandOptions::commands(std::span<const Command> rows)
 {
     m_app.require_subcommand(1);
+    m_app.footer("Each command has its own help: " + m_app.get_display_name()
+        + " COMMAND --help\n"
+          "Exit status: 0 done, 1 the work failed, 2 wrong usage.");
     for (const Command &row : rows) {
         CLI::App *below = m_app.add_subcommand(row.name, row.summary)->group("Commands");
+        below->footer("");
         CommandOptions options(*below, m_chosen);
         if (CommandBody body = row.setUp(options))
             below->final_callback([&chosen = m_chosen, body = std::move(body)] { chosen = body; });
@@ -178,7 +208,7 @@ ParsedArguments parseArguments(int argc, char **argv, std::span<const Command> c
         parser.app.exit(request, help, help);
         return HelpText { QByteArray::fromStdString(help.str()) };
     } catch (const CLI::Error &error) {
-        return WrongUsage { sentenceOf(error, nameOf(parser.app)) };
+        return WrongUsage { sentenceOf(error, parser.app) };
     }
     return std::move(parser.chosen);
 }

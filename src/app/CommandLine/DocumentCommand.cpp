@@ -72,7 +72,8 @@ CommandBody setUpDocument(CommandOptions &options)
     chosen->input.declareWatermark(options);
     chosen->input.declareScale(options);
     chosen->input.declareMaxPixels(options);
-    options.closing("Example:\n  tessaly document shot.png -o shot.tessaly --annotations marks.json --frame default");
+    options.closing("Example:\n"
+                    "  tessaly document shot.png -o shot.tessaly --frame default");
     return [chosen](CommandContext &context) { return runDocument(*chosen, context); };
 }
 
