@@ -23,14 +23,10 @@ struct DocumentOptions {
     InputOptions input;
 };
 
-Outcome writeDocument(const DocumentOptions &options, const QString &path, CommandContext &context)
+Outcome writeDocument(
+    const DocumentOptions &options, const QString &path, const Overrides &overrides, CommandContext &context)
 {
-    const auto overrides = Overrides::read(options.input);
-    if (!overrides)
-        return overrides.failure();
-    for (const auto &[file, remark] : overrides->remarks)
-        context.console().message(file, remark);
-    const auto loaded = LoadedInput::read(options.image, options.input, *overrides, context);
+    const auto loaded = LoadedInput::read(options.image, options.input, overrides, context);
     if (!loaded)
         return loaded.failure();
     if (const Outcome size = loaded->checkFinishedSize(options.input.reading().maxPixels); !size)
@@ -51,9 +47,12 @@ ExitStatus runDocument(const DocumentOptions &options, CommandContext &context)
         context.console().message(options.output, Text::tr("A document's name ends in .tessaly."));
         return ExitStatus::WrongUsage;
     }
+    const auto overrides = Overrides::read(options.input, context.console());
+    if (!overrides)
+        return ExitStatus::Failed;
     auto targets = OutputTargets::create(output, QStringList(options.image) + options.input.files());
     const auto path = targets ? targets->pathFor(options.image, {}) : Result<QString>(targets.failure());
-    const Outcome written = path ? writeDocument(options, *path, context) : Outcome(path.failure());
+    const Outcome written = path ? writeDocument(options, *path, *overrides, context) : Outcome(path.failure());
     if (written)
         return ExitStatus::Done;
     context.console().message(ByteStream::displayName(options.image), written.failure().message);

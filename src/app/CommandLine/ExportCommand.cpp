@@ -74,13 +74,9 @@ ExitStatus ExportRun::run()
         console.message(m_options.output, targets.failure().message);
         return ExitStatus::Failed;
     }
-    const auto overrides = Overrides::read(m_options.input);
-    if (!overrides) {
-        console.message(overrides.failure().message);
+    const auto overrides = Overrides::read(m_options.input, console);
+    if (!overrides)
         return ExitStatus::Failed;
-    }
-    for (const auto &[file, remark] : overrides->remarks)
-        console.message(file, remark);
     const auto chosen = m_options.format ? formatOfExtension(*m_options.format) : std::nullopt;
     return exportAll(*targets, *overrides, OutputTargets::format(chosen, m_options.output, m_context.settings()));
 }

@@ -18,13 +18,9 @@ struct InfoOptions {
 ExitStatus runInfo(const InfoOptions &options, CommandContext &context)
 {
     Console &console = context.console();
-    const auto overrides = Overrides::read(options.overrides);
-    if (!overrides) {
-        console.message(overrides.failure().message);
+    const auto overrides = Overrides::read(options.overrides, console);
+    if (!overrides)
         return ExitStatus::Failed;
-    }
-    for (const auto &[file, remark] : overrides->remarks)
-        console.message(file, remark);
     const QString name = ByteStream::displayName(options.input);
     const auto loaded = LoadedInput::read(options.input, options.overrides, *overrides, context);
     if (!loaded) {

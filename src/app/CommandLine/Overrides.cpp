@@ -2,6 +2,7 @@
 #include "app/CommandLine/Overrides.h"
 
 #include "app/CommandLine/ByteStream.h"
+#include "app/CommandLine/Console.h"
 #include "app/CommandLine/MarkCheck.h"
 #include "app/CommandLine/Text.h"
 
@@ -47,36 +48,54 @@ Result<AnnotationDocument> readAnnotations(const QString &path)
     return document;
 }
 
+/// An empty option asks for nothing, which is what the outer absence of a result says.
+Result<std::optional<std::optional<FrameStyle>>> readFrame(const std::optional<QString> &option)
+{
+    using Choice = std::optional<std::optional<FrameStyle>>;
+    if (!option)
+        return Choice();
+    if (*option == u"none")
+        return Choice(std::in_place);
+    if (*option == u"default")
+        return Choice(FrameStyle {});
+    auto frame = readRecord<FrameStyle>(*option);
+    return frame ? Result<Choice>(Choice(std::move(*frame))) : frame.failure();
+}
+
+Result<std::optional<std::optional<Watermark>>> readWatermark(const InputOptions &options)
+{
+    using Choice = std::optional<std::optional<Watermark>>;
+    if (!options.watermark)
+        return Choice();
+    if (*options.watermark == u"none")
+        return Choice(std::in_place);
+    auto watermark = readRecord<Watermark>(*options.watermark);
+    if (!watermark)
+        return watermark.failure();
+    if (const auto problem = MarkCheck::problem(*watermark, options.reading()))
+        return about(*options.watermark, *problem);
+    return Choice(std::move(*watermark));
+}
+
 } // namespace
 
-Result<Overrides> Overrides::read(const InputOptions &options)
+std::optional<Overrides> Overrides::read(const InputOptions &options, Console &console)
 {
+    const auto give = [&console](auto result, auto &target) {
+        if (result)
+            target = std::move(*result);
+        else
+            console.message(result.failure().message);
+        return static_cast<bool>(result);
+    };
     Overrides overrides;
-    if (options.annotations) {
-        auto document = readAnnotations(*options.annotations);
-        if (!document)
-            return document.failure();
-        if (const auto remark = MarkCheck::setAside(*document, options.reading()))
-            overrides.remarks.append({ *options.annotations, *remark });
-        overrides.annotations = std::move(*document);
-    }
-    if (options.frame && !isWord(*options.frame)) {
-        auto frame = readRecord<FrameStyle>(*options.frame);
-        if (!frame)
-            return frame.failure();
-        overrides.frame = std::move(*frame);
-    } else if (options.frame) {
-        overrides.frame = *options.frame == u"default" ? std::optional(FrameStyle {}) : std::nullopt;
-    }
-    if (options.watermark && *options.watermark != u"none") {
-        auto watermark = readRecord<Watermark>(*options.watermark);
-        if (!watermark)
-            return watermark.failure();
-        if (const auto problem = MarkCheck::problem(*watermark, options.reading()))
-            return about(*options.watermark, *problem);
-        overrides.watermark = std::move(*watermark);
-    } else if (options.watermark) {
-        overrides.watermark.emplace();
+    if (options.annotations && !give(readAnnotations(*options.annotations), overrides.annotations.emplace()))
+        return std::nullopt;
+    if (!give(readFrame(options.frame), overrides.frame) || !give(readWatermark(options), overrides.watermark))
+        return std::nullopt;
+    if (overrides.annotations) {
+        if (const auto remark = MarkCheck::setAside(*overrides.annotations, options.reading()))
+            console.message(*options.annotations, *remark);
     }
     return overrides;
 }

@@ -6,6 +6,8 @@
 
 namespace tessaly {
 
+class Console;
+
 /// What the options put in the place of an input's own marks, frame and watermark; read once for all inputs.
 struct Overrides {
     /// The highest value of --max-pixels: 16 GiB of pixels.
@@ -17,11 +19,9 @@ struct Overrides {
     std::optional<std::optional<FrameStyle>> frame;
     std::optional<std::optional<Watermark>> watermark;
 
-    /// One sentence for each file of which a part could not be taken: the file, the sentence.
-    QList<QPair<QString, QString>> remarks;
-
-    /// Reads the files; the failure names the one that cannot be used.
-    static Result<Overrides> read(const InputOptions &options);
+    /// Reads the files. A file that cannot be used is told to the console, and there are no overrides; marks of one
+    /// that cannot be used are told and left out.
+    static std::optional<Overrides> read(const InputOptions &options, Console &console);
 
     /// Whether an option's value is one of its words and not a file.
     static bool isWord(QStringView value) { return value == u"default" || value == u"none"; }

@@ -73,15 +73,15 @@ private Q_SLOTS:
             badFile(R"({"canvasSize":[40,20],"annotations":[],"generator":7})"));
         row("marks: NaN", exportMarks, "bad", badFile(R"({"canvasSize":[NaN,20]})"));
         row("marks: 1e400", exportMarks, "bad", badFile(R"({"canvasSize":[1e400,20]})"));
-        row("marks: nested", exportMarks, "bad", badFile(QByteArray(100'000, '[')));
+        row("marks: nested", exportMarks, "bad", badFile(QByteArray(100000, '[')));
         row("marks: nested and closed", exportMarks, "bad",
-            badFile(QByteArray(100'000, '[') + QByteArray(100'000, ']')));
+            badFile(QByteArray(100000, '[') + QByteArray(100000, ']')));
         row("marks: invalid UTF-8", exportMarks, "bad", badFile("{\"canvasSize\":[40,20],\"generator\":\"\xff\xfe\"}"));
         row("marks: 200 MB", exportMarks, "bad", [](const Program &program) {
             program.put("bad", "[");
-            QFile::resize(program.path("bad"), 200'000'000);
+            QFile::resize(program.path("bad"), 200000000);
         });
-        row("marks: 100 000", exportMarks, "bad", badFile(marks(100'000)));
+        row("marks: 100 000", exportMarks, "bad", badFile(marks(100000)));
         row("marks: empty", exportMarks, "bad", badFile({}));
         row("marks: missing", exportMarks, "bad", [](const Program &) {});
         row("frame: number for text", { "export", "good.png", "-o", "out.png", "--frame", "bad" }, "bad",

@@ -11,9 +11,10 @@ namespace {
 /// Two displays, told apart by size and colour.
 class TwoDisplays final : public ScreenSource {
 public:
-    Result<QList<Display>> displays() override
+    Result<QList<tessaly::Display>> displays() override
     {
-        return QList<Display> { { "left", { 0, 0, 64, 40 }, 2, true }, { "right", { 64, 0, 30, 20 }, 1, false } };
+        return QList<tessaly::Display> { { "left", { 0, 0, 64, 40 }, 2, true },
+            { "right", { 64, 0, 30, 20 }, 1, false } };
     }
 
     Result<RasterImage> capture(const QRect &pixelRect, double scale) override

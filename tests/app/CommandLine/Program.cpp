@@ -28,7 +28,7 @@ Finished Program::run(const QStringList &arguments, const QByteArray &input) con
     process.write(input);
     process.closeWriteChannel();
     Finished finished;
-    if (process.waitForFinished(120'000) && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
         finished.status = process.exitCode();
     finished.output = process.readAllStandardOutput();
     finished.messages = QString::fromUtf8(process.readAllStandardError());
