@@ -104,7 +104,7 @@ QByteArray text(const QString &name, const LoadedInput &input)
     };
     row(Text::tr("Pixels"), shape(store.image().pixelSize()));
     row(Text::tr("Points"),
-        Text::tr("%1 (%2 pixels a point, %3 dpi)")
+        Text::tr("%1 (scale %2, %3 dpi)")
             .arg(shape(store.image().pointSize), number(store.pixelScale()), QString::number(store.dpi())));
     row(Text::tr("Frame"), frameText(store));
     row(Text::tr("Watermark"), watermarkText(store));

@@ -14,16 +14,19 @@ const QByteArray bomb = QByteArray::fromHex(
     "89504e470d0a1a0a0000000d49484452000186a0000186a0080200000027309c9f0000000c49444154789c6360a03d000000"
     "64000186643c350000000049454e44ae426082");
 
+/// JSON written with ' for ".
+QByteArray json(QByteArray text) { return text.replace('\'', '"'); }
+
 /// Two marks: a good one, and one of these fields.
 QByteArray goodAnd(const QByteArray &fields)
 {
-    return R"([{"kind":"rectangle","p1":[4,4],"p2":[20,12]},{"p1":[2,2],)" + fields + "}]";
+    return json("[{'kind':'rectangle','p1':[4,4],'p2':[20,12]},{'p1':[2,2],") + fields + "}]";
 }
 
 QByteArray marks(int count)
 {
     QByteArrayList list;
-    list.fill(R"({"kind":"line","p1":[1,1],"p2":[9,9]})", count);
+    list.fill(json("{'kind':'line','p1':[1,1],'p2':[9,9]}"), count);
     return '[' + list.join(',') + ']';
 }
 
@@ -66,16 +69,15 @@ private Q_SLOTS:
         row("over the limit", { "export", "good.png", "-o", "out.png", "--max-pixels", "700" }, "good.png",
             [](const Program &) {});
         row("frame beyond the limit", { "export", "good.png", "-o", "out.png", "--frame", "bad" }, "good.png",
-            badFile(R"({"padding":1e9})"));
+            badFile(json("{'padding':1e9}")));
 
         const QStringList exportMarks { "export", "good.png", "-o", "out.png", "--annotations", "bad" };
         row("marks: number for text", exportMarks, "bad",
-            badFile(R"({"canvasSize":[40,20],"annotations":[],"generator":7})"));
-        row("marks: NaN", exportMarks, "bad", badFile(R"({"canvasSize":[NaN,20]})"));
-        row("marks: 1e400", exportMarks, "bad", badFile(R"({"canvasSize":[1e400,20]})"));
+            badFile(json("{'canvasSize':[40,20],'annotations':[],'generator':7}")));
+        row("marks: NaN", exportMarks, "bad", badFile(json("{'canvasSize':[NaN,20]}")));
+        row("marks: 1e400", exportMarks, "bad", badFile(json("{'canvasSize':[1e400,20]}")));
         row("marks: nested", exportMarks, "bad", badFile(QByteArray(100000, '[')));
-        row("marks: nested and closed", exportMarks, "bad",
-            badFile(QByteArray(100000, '[') + QByteArray(100000, ']')));
+        row("marks: nested and closed", exportMarks, "bad", badFile(QByteArray(100000, '[') + QByteArray(100000, ']')));
         row("marks: invalid UTF-8", exportMarks, "bad", badFile("{\"canvasSize\":[40,20],\"generator\":\"\xff\xfe\"}"));
         row("marks: 200 MB", exportMarks, "bad", [](const Program &program) {
             program.put("bad", "[");
@@ -85,9 +87,9 @@ private Q_SLOTS:
         row("marks: empty", exportMarks, "bad", badFile({}));
         row("marks: missing", exportMarks, "bad", [](const Program &) {});
         row("frame: number for text", { "export", "good.png", "-o", "out.png", "--frame", "bad" }, "bad",
-            badFile(R"({"solidHex":3})"));
+            badFile(json("{'solidHex':3}")));
         row("watermark: logo is a bomb", { "export", "good.png", "-o", "out.png", "--watermark", "bad" }, "bad",
-            badFile(R"({"kind":"image","imageData":")" + bomb.toBase64() + "\"}"));
+            badFile(json("{'kind':'image','imageData':'") + bomb.toBase64() + "\"}"));
 
         const QStringList exportPackage { "export", "doc.tessaly", "-o", "out.png" };
         const auto package = [](Prepare spoil) {
@@ -109,7 +111,7 @@ private Q_SLOTS:
         row("package: image is a bomb", exportPackage, "doc.tessaly",
             package([](const Program &program) { program.put("doc.tessaly/image.png", bomb); }));
         row("package: newer", exportPackage, "doc.tessaly",
-            package([](const Program &program) { program.put("doc.tessaly/document.json", R"({"version":9})"); }));
+            package([](const Program &program) { program.put("doc.tessaly/document.json", json("{'version':9}")); }));
         row("package: a file of that name", exportPackage, "doc.tessaly",
             [](const Program &program) { program.put("doc.tessaly", "x"); });
 
@@ -164,16 +166,16 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QByteArray &fields, int kept) {
             QTest::newRow(name) << goodAnd(fields) << kept;
         };
-        row("unknown kind of head", R"("kind":"arrow","p2":[30,15],"arrowHead":"round")", 1);
-        row("number for a colour", R"("kind":"arrow","p2":[30,15],"colorHex":3)", 1);
-        row("not Base64", R"("kind":"imageOverlay","p2":[30,15],"imageData":"*?*")", 1);
-        row("no picture", R"("kind":"imageOverlay","p2":[30,15],"imageData":"aGVsbG8=")", 1);
-        row("a bomb", R"("kind":"imageOverlay","p2":[30,15],"imageData":")" + bomb.toBase64() + '"', 1);
-        row("far away", R"("kind":"arrow","p2":[1e300,-1e300])", 1);
-        row("negative width", R"("kind":"arrow","p2":[30,15],"lineWidth":-4)", 2);
-        row("opacity 7", R"("kind":"highlight","p2":[30,15],"highlightOpacity":7)", 2);
-        row("size 0", R"("kind":"text","p2":[30,15],"text":"a","fontSize":0)", 2);
-        QTest::newRow("no mark at all") << QByteArray(R"([{"kind":"line","p1":[1,1],"p2":[9,9]},7])") << 1;
+        row("unknown kind of head", json("'kind':'arrow','p2':[30,15],'arrowHead':'round'"), 1);
+        row("number for a colour", json("'kind':'arrow','p2':[30,15],'colorHex':3"), 1);
+        row("not Base64", json("'kind':'imageOverlay','p2':[30,15],'imageData':'*?*'"), 1);
+        row("no picture", json("'kind':'imageOverlay','p2':[30,15],'imageData':'aGVsbG8='"), 1);
+        row("a bomb", json("'kind':'imageOverlay','p2':[30,15],'imageData':'") + bomb.toBase64() + '"', 1);
+        row("far away", json("'kind':'arrow','p2':[1e300,-1e300]"), 1);
+        row("negative width", json("'kind':'arrow','p2':[30,15],'lineWidth':-4"), 2);
+        row("opacity 7", json("'kind':'highlight','p2':[30,15],'highlightOpacity':7"), 2);
+        row("size 0", json("'kind':'text','p2':[30,15],'text':'a','fontSize':0"), 2);
+        QTest::newRow("no mark at all") << QByteArray(json("[{'kind':'line','p1':[1,1],'p2':[9,9]},7]")) << 1;
     }
 
     void badMarksAreCountedAndLeftOut()

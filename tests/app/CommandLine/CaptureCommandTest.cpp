@@ -40,7 +40,8 @@ class CaptureCommandTest : public QObject {
         QList<char *> pointers;
         for (QByteArray &text : texts)
             pointers += text.data();
-        const CommandEnvironment environment { [] { return std::make_unique<TwoDisplays>(); } };
+        using Source = std::unique_ptr<ScreenSource>;
+        const CommandEnvironment environment { [] { return Result<Source>(std::make_unique<TwoDisplays>()); } };
         return runCommandLine(static_cast<int>(pointers.size()), pointers.data(), environment);
     }
 

@@ -38,7 +38,7 @@ private Q_SLOTS:
                  "rect": [100, 100, 20, 20], "boundingRect": [100, 100, 45.52, 20], "tailTip": [140, 110],
                  "stampLabelRect": [123.52, 102, 22, 16]},
                 {"id": "31111111-2222-4333-8444-555555555555", "kind": "text",
-                 "rect": [7, 9, 0, 0], "boundingRect": [7, 9, 24, 23.400000000000002]}]})"));
+                 "rect": [7, 9, 0, 0], "boundingRect": [7, 9, 24, 23.4]}]})"));
     }
 
     void jsonOfADocumentSaysWhereItComesFrom()
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(QString::fromUtf8(finished.output),
             QStringLiteral("standard input\n"
                            "  Pixels     40 × 20\n"
-                           "  Points     40 × 20 (1 pixel a point, 72 dpi)\n"
+                           "  Points     40 × 20 (scale 1, 72 dpi)\n"
                            "  Frame      none\n"
                            "  Watermark  none\n"
                            "  Marks      1\n"
