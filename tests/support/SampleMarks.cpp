@@ -108,7 +108,7 @@ QString randomText(QRandomGenerator &random)
 {
     static const QStringList texts { QString(), QStringLiteral("plain"), QStringLiteral("two\nlines\t\"quoted\" \\"),
         QStringLiteral("Grüße, мир, 世界"), QStringLiteral("👩‍👩‍👧 e\u0301"), QString(QChar(0)),
-        QStringLiteral("</\u2028>\x7f\x01"), QString(QChar(0xd83d)), QStringLiteral("\ufeff\uffff") };
+        QStringLiteral("</\u2028>\x7f\x01"), QString(QChar(0xd83d)), QStringLiteral("\uffff\ufeff") };
     return texts[random.bounded(static_cast<int>(texts.size()))];
 }
 
@@ -185,7 +185,7 @@ QList<Annotation> manyMarks(int count)
     for (int index = 0; index < count; ++index) {
         Annotation mark = kinds[index % kinds.size()];
         const QPointF place(
-            std::fmod(index * 37.25, sampleCanvas.width() - 120), std::fmod(index * 23.5, sampleCanvas.height() - 60));
+            std::fmod(index * 37.25, sampleCanvas.width() - 200), std::fmod(index * 23.5, sampleCanvas.height() - 60));
         const QPointF offset = place - mark.p1;
         mark.p1 += offset;
         mark.p2 += offset;

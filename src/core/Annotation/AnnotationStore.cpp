@@ -4,7 +4,8 @@
 namespace tessaly {
 
 AnnotationStore::AnnotationStore(RasterImage image, const Settings &, QObject *parent) :
-    QObject(parent), m_content { .image = std::move(image) }
+    QObject(parent),
+    m_content { .image = std::move(image) }
 {
 }
 

@@ -9,15 +9,32 @@
 #include <QJsonValue>
 #include <QLatin1StringView>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <tuple>
 
 /// Records and their JSON by one table: each row is a key and a pointer to a member, read and written by the same row.
 namespace tessaly::json {
 
 /// How one type stands in JSON. `read` is false when the value is of another type; `write` may give an undefined
-/// value, which leaves the key out. Other types specialise it beside their declaration.
+/// value, which leaves the key out. A type that can hold what JSON cannot also has `writable`. Other types specialise
+/// it beside their declaration.
 template <class T>
 struct Codec;
+
+/// Whether JSON can hold the value: it has no word for NaN and the infinities.
+template <class T>
+bool isWritable(const T &value)
+{
+    if constexpr (requires { Codec<T>::writable(value); })
+        return Codec<T>::writable(value);
+    else
+        return true;
+}
+
+/// A value as a short piece of JSON text, for a sentence about it.
+QString excerpt(const QJsonValue &value);
 
 template <>
 struct Codec<bool> {
@@ -36,7 +53,22 @@ struct Codec<double> {
         target = value.toDouble();
         return value.isDouble();
     }
-    static QJsonValue write(double value) { return value; }
+    static bool writable(double value) { return std::isfinite(value); }
+    static QJsonValue write(double value) { return value + 0.0; } // a negative zero becomes zero, as it would be read
+};
+
+/// Whole numbers of the type's range; 1.0 is one, 1.5 is none.
+template <>
+struct Codec<int> {
+    static bool read(const QJsonValue &value, int &target)
+    {
+        const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
+        const bool whole = std::trunc(number) == number && number >= std::numeric_limits<int>::min()
+            && number <= std::numeric_limits<int>::max();
+        target = whole ? static_cast<int>(number) : target;
+        return whole;
+    }
+    static QJsonValue write(int value) { return value; }
 };
 
 template <>
@@ -54,7 +86,8 @@ template <>
 struct Codec<QByteArray> {
     static bool read(const QJsonValue &value, QByteArray &target)
     {
-        auto decoded = QByteArray::fromBase64Encoding(value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+        auto decoded
+            = QByteArray::fromBase64Encoding(value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
         target = std::move(*decoded);
         return value.isString() && decoded.decodingStatus == QByteArray::Base64DecodingStatus::Ok;
     }
@@ -69,6 +102,7 @@ struct Codec<std::optional<T>> {
         target.reset();
         return value.isNull() || Codec<T>::read(value, target.emplace());
     }
+    static bool writable(const std::optional<T> &value) { return !value || isWritable(*value); }
     static QJsonValue write(const std::optional<T> &value)
     {
         return value ? Codec<T>::write(*value) : QJsonValue(QJsonValue::Undefined);
@@ -88,6 +122,7 @@ struct Codec<QList<T>> {
         }
         return value.isArray();
     }
+    static bool writable(const QList<T> &value) { return std::ranges::all_of(value, isWritable<T>); }
     static QJsonValue write(const QList<T> &value)
     {
         QJsonArray array;
@@ -99,7 +134,7 @@ struct Codec<QList<T>> {
 
 /// Enumerations stand as their raw text; an unknown text is of another type.
 template <class Enum>
-    requires std::is_enum_v<Enum>
+requires std::is_enum_v<Enum>
 struct Codec<Enum> {
     static bool read(const QJsonValue &value, Enum &target)
     {
@@ -133,6 +168,19 @@ const char *readOver(Record &record, const QJsonObject &object, const std::tuple
             wrongKey = field.key;
     };
     std::apply([&](const auto &...field) { (readOne(field), ...); }, fields);
+    return wrongKey;
+}
+
+/// The first key whose value JSON cannot hold, or null.
+template <class Record, class... Fields>
+const char *firstUnwritable(const Record &record, const std::tuple<Fields...> &fields)
+{
+    const char *wrongKey = nullptr;
+    const auto check = [&](const auto &field) {
+        if (!wrongKey && !isWritable(record.*field.member))
+            wrongKey = field.key;
+    };
+    std::apply([&](const auto &...field) { (check(field), ...); }, fields);
     return wrongKey;
 }
 

@@ -7,7 +7,8 @@
 namespace tessaly {
 
 FrameLayout::FrameLayout(QSizeF size, const std::optional<FrameStyle> &frame, double pixelScale) :
-    canvasSize(size), imageSize(size)
+    canvasSize(size),
+    imageSize(size)
 {
     if (!frame || size.isEmpty())
         return;
@@ -23,7 +24,8 @@ FrameLayout::FrameLayout(QSizeF size, const std::optional<FrameStyle> &frame, do
     }
     const auto snapped = [scale](double length) { return std::trunc(length * scale) / scale; };
     canvasSize = { snapped(width), snapped(height) };
-    imageOrigin = { snapped((canvasSize.width() - size.width()) * 0.5), snapped((canvasSize.height() - size.height()) * 0.5) };
+    imageOrigin
+        = { snapped((canvasSize.width() - size.width()) * 0.5), snapped((canvasSize.height() - size.height()) * 0.5) };
 }
 
 FrameLayout::Shadow FrameLayout::shadowMetrics(const FrameStyle &frame, const FrameLayout &layout)

@@ -16,12 +16,15 @@ static constexpr std::tuple fields {
 };
 
 QJsonObject FrameStyle::toJson() const { return json::write(*this, fields); }
+const char *FrameStyle::unwritableKey() const { return json::firstUnwritable(*this, fields); }
 
 Result<FrameStyle> FrameStyle::fromJson(const QJsonObject &object)
 {
     FrameStyle style;
-    if (const char *key = json::readOver(style, object, fields))
-        return Failure { QCoreApplication::translate("FrameStyle", "The frame's “%1” has a value of the wrong type.").arg(QLatin1StringView(key)) };
+    if (const char *key = json::readOver(style, object, fields)) {
+        const QString sentence = QCoreApplication::translate("FrameStyle", "The frame's “%1” cannot be %2.");
+        return Failure { sentence.arg(QLatin1StringView(key), json::excerpt(object[QLatin1StringView(key)])) };
+    }
     return style;
 }
 

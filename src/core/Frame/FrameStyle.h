@@ -31,6 +31,9 @@ struct FrameStyle {
 
     QJsonObject toJson() const;
 
+    /// The first field that JSON cannot hold, a number that is not finite; null when all can be written.
+    const char *unwritableKey() const;
+
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<FrameStyle> fromJson(const QJsonObject &object);
 

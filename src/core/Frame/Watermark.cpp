@@ -30,12 +30,15 @@ bool Watermark::isVisible() const
 }
 
 QJsonObject Watermark::toJson() const { return json::write(*this, fields); }
+const char *Watermark::unwritableKey() const { return json::firstUnwritable(*this, fields); }
 
 Result<Watermark> Watermark::fromJson(const QJsonObject &object)
 {
     Watermark watermark;
-    if (const char *key = json::readOver(watermark, object, fields))
-        return Failure { QCoreApplication::translate("Watermark", "The watermark's “%1” has a value of the wrong type.").arg(QLatin1StringView(key)) };
+    if (const char *key = json::readOver(watermark, object, fields)) {
+        const QString sentence = QCoreApplication::translate("Watermark", "The watermark's “%1” cannot be %2.");
+        return Failure { sentence.arg(QLatin1StringView(key), json::excerpt(object[QLatin1StringView(key)])) };
+    }
     return watermark;
 }
 

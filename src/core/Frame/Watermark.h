@@ -50,6 +50,9 @@ struct Watermark {
 
     QJsonObject toJson() const;
 
+    /// The first field that JSON cannot hold, a number that is not finite; null when all can be written.
+    const char *unwritableKey() const;
+
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<Watermark> fromJson(const QJsonObject &object);
 
