@@ -47,7 +47,7 @@ Outcome captureFullScreen(const CaptureOptions &options, CommandContext &context
         return picture.failure();
     const auto format = formatOfExtension(QFileInfo(*path).suffix()).value_or(ExportFormat::Png);
     const auto bytes = encodePicture(*picture, format, std::nullopt, context);
-    return bytes ? OutputTargets::write(*path, *bytes) : Outcome(bytes.failure());
+    return bytes ? targets->write(*path, *bytes) : Outcome(bytes.failure());
 }
 
 ExitStatus runFullScreen(const CaptureOptions &options, CommandContext &context)

@@ -78,7 +78,7 @@ ExitStatus ExportRun::run()
     if (!overrides)
         return ExitStatus::Failed;
     const auto chosen = m_options.format ? formatOfExtension(*m_options.format) : std::nullopt;
-    return exportAll(*targets, *overrides, OutputTargets::format(chosen, m_options.output, m_context.settings()));
+    return exportAll(*targets, *overrides, targets->format(chosen, m_context.settings()));
 }
 
 ExitStatus ExportRun::exportAll(OutputTargets &targets, const Overrides &overrides, ExportFormat format)
@@ -117,7 +117,7 @@ Outcome ExportRun::exportOne(
     if (!bytes)
         return bytes.failure();
     step(input);
-    return OutputTargets::write(*path, *bytes);
+    return targets.write(*path, *bytes, input);
 }
 
 void ExportRun::step(const QString &input)

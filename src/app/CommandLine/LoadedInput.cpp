@@ -17,8 +17,8 @@ namespace tessaly {
 
 namespace {
 
-/// An image file may be larger than its pixels, but not without end.
-qint64 maxImageBytes(const ImageReadOptions &options) { return options.maxPixels * 8 + (1 << 20); }
+/// A stream may be as long as the pixels that are read at the most, and a little more for what is not pixels.
+qint64 maxImageBytes(const ImageReadOptions &options) { return options.maxPixels * 4 + (1 << 20); }
 
 Result<RasterImage> readPicture(const QString &path, const ImageReadOptions &options)
 {

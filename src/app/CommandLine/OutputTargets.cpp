@@ -98,31 +98,33 @@ Result<QString> OutputTargets::pathFor(const QString &input, QLatin1StringView e
         return Failure {
             Text::tr("%1 lies inside the Tessaly document %2 and cannot be written.").arg(path, *document)
         };
-    const QString key = QFileInfo(path).absoluteFilePath();
-    if (const auto earlier = m_writtenFrom.constFind(key); earlier != m_writtenFrom.cend())
+    const auto earlier = m_writtenFrom.constFind(QFileInfo(path).absoluteFilePath());
+    if (earlier != m_writtenFrom.cend())
         return Failure { Text::tr("%1 already holds the result of %2; %3 needs another name.")
                              .arg(path, ByteStream::displayName(*earlier), ByteStream::displayName(input)) };
-    m_writtenFrom.insert(key, input);
     return path;
 }
 
-Outcome OutputTargets::write(const QString &path, const QByteArray &bytes)
+Outcome OutputTargets::write(const QString &path, const QByteArray &bytes, const QString &input)
 {
     const InterruptionGuard guard;
-    const bool standardOutput = path == u"-";
-    if (!standardOutput && !isStream(path))
-        return SafeFile::write(path, bytes);
-    const int error = standardOutput ? ByteStream::writeAll(STDOUT_FILENO, bytes) : writeToStream(path, bytes);
+    if (!isStandardOutput() && !isStream(path)) {
+        Outcome written = SafeFile::write(path, bytes);
+        if (written)
+            m_writtenFrom.insert(QFileInfo(path).absoluteFilePath(), input);
+        return written;
+    }
+    const int error = isStandardOutput() ? ByteStream::writeAll(STDOUT_FILENO, bytes) : writeToStream(path, bytes);
     if (error == 0)
         return Done {};
-    const QString name = standardOutput ? Text::tr("Standard output") : path;
+    const QString name = isStandardOutput() ? Text::tr("Standard output") : path;
     return Failure { Text::tr("%1 could not be written: %2.").arg(name, ByteStream::reason(error)) };
 }
 
-ExportFormat OutputTargets::format(std::optional<ExportFormat> chosen, const QString &output, const Settings &settings)
+ExportFormat OutputTargets::format(std::optional<ExportFormat> chosen, const Settings &settings) const
 {
-    if (!chosen)
-        chosen = formatOfExtension(QFileInfo(output).suffix());
+    if (!chosen && !m_isFolder)
+        chosen = formatOfExtension(QFileInfo(m_output).suffix());
     return chosen ? *chosen : storedFormat(settings);
 }
 

@@ -28,12 +28,12 @@ public:
     /// The path for this input's result with that extension.
     Result<QString> pathFor(const QString &input, QLatin1StringView extension);
 
-    /// Writes the bytes of a result to a path that pathFor gave. A file appears whole or not at all, even when the run
-    /// is interrupted; a device or a pipe takes the bytes as they come.
-    static Outcome write(const QString &path, const QByteArray &bytes);
+    /// Writes the bytes of an input's result to the path that pathFor gave for it. A file appears whole or not at all,
+    /// even when the run is interrupted; a device or a pipe takes the bytes as they come.
+    Outcome write(const QString &path, const QByteArray &bytes, const QString &input = {});
 
-    /// The format of an option's text, else of the output's extension, else the one that the user last chose.
-    static ExportFormat format(std::optional<ExportFormat> chosen, const QString &output, const Settings &settings);
+    /// The format that was asked for, else the one of the output's extension, else the one that the user last chose.
+    ExportFormat format(std::optional<ExportFormat> chosen, const Settings &settings) const;
 
 private:
     using FileIdentity = std::pair<dev_t, ino_t>;

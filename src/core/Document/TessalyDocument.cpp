@@ -19,8 +19,8 @@ namespace tessaly::TessalyDocument {
 
 namespace {
 
-/// A PNG may be larger than its pixels, but not without end.
-qint64 maxPngBytes(const ImageReadOptions &options) { return options.maxPixels * 8 + (1 << 20); }
+/// A PNG is hardly ever longer than its pixels at 4 bytes each.
+qint64 maxPngBytes(const ImageReadOptions &options) { return options.maxPixels * 4 + (1 << 20); }
 
 Failure damaged(const QString &detail) { return { .kind = FailureKind::Damaged, .detail = detail }; }
 
