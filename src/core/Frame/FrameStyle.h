@@ -37,6 +37,10 @@ struct FrameStyle {
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<FrameStyle> fromJson(const QJsonObject &object);
 
+    /// The style with its numbers in the range that can be drawn: padding 0 to 2, corner radius 0 to 100 000 points,
+    /// shadow 0 to 1. What is no number at all becomes the default.
+    FrameStyle drawable() const;
+
     bool operator==(const FrameStyle &) const = default;
 
     /// A gradient that the user can pick by name.
