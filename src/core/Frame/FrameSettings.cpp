@@ -101,23 +101,21 @@ std::optional<QByteArray> FrameSettings::logo() const
 
 Result<QByteArray> FrameSettings::importLogo(const QByteArray &imageFile)
 {
-    const Failure unreadable { QCoreApplication::translate("FrameSettings", "Couldn't use this image as a watermark") };
-    const auto image = readImage(imageFile, unreadable.message);
+    return storeLogo(readImage(imageFile, logoPath()));
+}
+
+Result<QByteArray> FrameSettings::importLogo(const QString &path) { return storeLogo(readImageFile(path)); }
+
+Result<QByteArray> FrameSettings::storeLogo(const Result<RasterImage> &image)
+{
     QByteArray png;
     QBuffer buffer(&png);
     if (!image || !image->pixels.save(&buffer, "PNG"))
-        return unreadable;
+        return Failure { QCoreApplication::translate("FrameSettings", "Couldn't use this image as a watermark") };
     QDir().mkpath(QFileInfo(logoPath()).path()); // where this fails, so does writing, and says why
     if (const auto written = SafeFile::write(logoPath(), png); !written)
         return written.failure();
     return png;
-}
-
-Result<QByteArray> FrameSettings::importLogo(const QString &path)
-{
-    // A file that cannot be opened is as unreadable as one that is no picture.
-    QFile file(path);
-    return importLogo(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
 }
 
 QString FrameSettings::logoPath() const { return QDir(m_dataFolder).filePath(QStringLiteral("Watermark/logo.png")); }

@@ -8,6 +8,7 @@
 namespace tessaly {
 
 class Settings;
+struct RasterImage;
 
 /// The frame and watermark that the user last used, and the program's own copy of the watermark's logo.
 class FrameSettings {
@@ -42,6 +43,7 @@ public:
 
 private:
     std::optional<QByteArray> logo() const;
+    Result<QByteArray> storeLogo(const Result<RasterImage> &image);
 
     Settings &m_settings;
     QString m_dataFolder;

@@ -50,12 +50,12 @@ struct FrameStyle {
         std::array<const char *, 2> colors;
     };
     static constexpr std::array<Gradient, 6> gradients { {
-        { "pink", "Pink", { "#FF4D6D", "#D6174F" } },
-        { "sunset", "Sunset", { "#FF3366", "#FF9F0A" } },
-        { "violet", "Violet", { "#FF3366", "#5E5CE6" } },
-        { "ocean", "Ocean", { "#2E7DF6", "#30C8D6" } },
-        { "graphite", "Graphite", { "#48484A", "#1C1C1E" } },
-        { "mist", "Mist", { "#F5F5F7", "#D2D2D7" } },
+        { "pink", QT_TRANSLATE_NOOP("FrameStyle", "Pink"), { "#FF4D6D", "#D6174F" } },
+        { "sunset", QT_TRANSLATE_NOOP("FrameStyle", "Sunset"), { "#FF3366", "#FF9F0A" } },
+        { "violet", QT_TRANSLATE_NOOP("FrameStyle", "Violet"), { "#FF3366", "#5E5CE6" } },
+        { "ocean", QT_TRANSLATE_NOOP("FrameStyle", "Ocean"), { "#2E7DF6", "#30C8D6" } },
+        { "graphite", QT_TRANSLATE_NOOP("FrameStyle", "Graphite"), { "#48484A", "#1C1C1E" } },
+        { "mist", QT_TRANSLATE_NOOP("FrameStyle", "Mist"), { "#F5F5F7", "#D2D2D7" } },
     } };
     static constexpr std::array<const char *, 3> solidSwatches { "#FFFFFF", "#E5E5EA", "#1C1C1E" };
 
