@@ -7,7 +7,10 @@
 
 namespace tessaly {
 
-/// The screen of an X server, read through shared memory.
+class SharedSegment;
+class X11Connection;
+
+/// The screen of an X server, read through shared memory where the server shares it.
 class X11ScreenSource final : public ScreenSource {
 public:
     /// Connects to the server that `display` names (":0"); empty means the environment's. Fails when none answers.
@@ -15,13 +18,20 @@ public:
     ~X11ScreenSource() override;
 
     Result<QList<Display>> displays() override;
+
+    /// The picture's pixels are the kept shared memory itself, not a copy: while a picture lives, the next capture
+    /// takes other memory. What lies outside the desktop is cut off.
     Result<RasterImage> capture(const QRect &pixelRect, double scale) override;
 
 private:
-    struct Connection;
-    explicit X11ScreenSource(std::unique_ptr<Connection> connection);
+    explicit X11ScreenSource(std::shared_ptr<X11Connection> connection);
 
-    std::unique_ptr<Connection> m_connection;
+    /// Null where shared memory cannot be had or the server's pixels need converting.
+    QImage captureShared(const QRect &pixelRect);
+    QImage captureThroughSocket(const QRect &pixelRect);
+
+    std::shared_ptr<X11Connection> m_connection;
+    std::shared_ptr<SharedSegment> m_segment;
 };
 
 } // namespace tessaly
