@@ -6,7 +6,9 @@
 
 int main(int argc, char **argv)
 {
+    using namespace tessaly;
     // A file that grows past the limit that the user set is then a failed write, with its sentence, and not the end.
     std::signal(SIGXFSZ, SIG_IGN);
-    return tessaly::runCommandLine(argc, argv, { .screenSource = tessaly::PlatformChoice::screenSource });
+    return runCommandLine(
+        argc, argv, { .screenSource = [] { return PlatformChoice::screenSource(CaptureUse::Once); } });
 }
