@@ -52,8 +52,8 @@ bool holds(const Bound &bound, const MedianReporter &reporter)
     }
     const double ratio = *subject / *baseline;
     const bool kept = ratio <= bound.maxRatio;
-    std::printf("%s  %-5s %7.3f (at most %.3f)  %s / %s\n", kept ? "kept  " : "BROKEN", what.c_str(), ratio, bound.maxRatio,
-        bound.subject.c_str(), bound.baseline.c_str());
+    std::printf("%s  %-5s %7.3f (at most %.3f)  %s / %s\n", kept ? "kept  " : "BROKEN", what.c_str(), ratio,
+        bound.maxRatio, bound.subject.c_str(), bound.baseline.c_str());
     return kept;
 }
 

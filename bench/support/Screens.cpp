@@ -16,9 +16,15 @@ namespace {
 
 using Random = std::minstd_rand;
 
-int between(Random &random, int low, int high) { return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1)); }
+int between(Random &random, int low, int high)
+{
+    return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
+}
 
-QColor anyColor(Random &random) { return QColor::fromHsv(between(random, 0, 359), between(random, 60, 220), between(random, 90, 240)); }
+QColor anyColor(Random &random)
+{
+    return QColor::fromHsv(between(random, 0, 359), between(random, 60, 220), between(random, 90, 240));
+}
 
 /// Antialiased strokes in the rhythm of words; fonts would differ from machine to machine.
 void textRows(QPainter &painter, Random &random, const QRect &area, int lineHeight, const QColor &ink)
@@ -33,7 +39,8 @@ void textRows(QPainter &painter, Random &random, const QRect &area, int lineHeig
                 const double top = y - lineHeight * (random() % 3 ? 0.45 : 0.65);
                 painter.drawLine(QPointF(x, top), QPointF(x + (random() % 2) * glyph * 0.3, y - lineHeight * 0.1));
                 if (random() % 2)
-                    painter.drawArc(QRectF(x, top, glyph * 0.75, y - lineHeight * 0.1 - top), between(random, 0, 5000), 3600);
+                    painter.drawArc(
+                        QRectF(x, top, glyph * 0.75, y - lineHeight * 0.1 - top), between(random, 0, 5000), 3600);
             }
             x += glyph * 0.8;
         }
@@ -54,7 +61,8 @@ void window(QPainter &painter, Random &random, const QRect &frame)
         painter.drawEllipse(QRectF(frame.left() + 12 + icon * 34, frame.top() + 9, 22, 22));
     }
     painter.setBrush(Qt::NoBrush);
-    textRows(painter, random, frame.adjusted(24, 52, -24, -12), between(random, 15, 30), dark ? QColor(210, 212, 218) : QColor(40, 42, 48));
+    textRows(painter, random, frame.adjusted(24, 52, -24, -12), between(random, 15, 30),
+        dark ? QColor(210, 212, 218) : QColor(40, 42, 48));
 }
 
 double hash(int x, int y)
@@ -86,9 +94,12 @@ QImage photoLike(QSize size)
         auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < size.width(); ++x) {
             const double u = x * 0.0031, v = y * 0.0043;
-            const double soft = std::sin(u + 1.7 * std::sin(v)) + std::sin(2.3 * v - 0.8 * std::cos(1.9 * u)) + 0.5 * std::sin(7 * u) * std::cos(5 * v);
+            const double soft = std::sin(u + 1.7 * std::sin(v)) + std::sin(2.3 * v - 0.8 * std::cos(1.9 * u))
+                + 0.5 * std::sin(7 * u) * std::cos(5 * v);
             const double grain = (hash(x, y) + hash(x + 7919, y)) * 9 - 9;
-            const auto level = [&](double mean, double swing) { return std::clamp(static_cast<int>(mean + swing * soft + grain), 0, 255); };
+            const auto level = [&](double mean, double swing) {
+                return std::clamp(static_cast<int>(mean + swing * soft + grain), 0, 255);
+            };
             row[x] = qRgb(level(128, 40), level(120, 34), level(104, 28));
         }
     }

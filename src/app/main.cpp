@@ -2,7 +2,13 @@
 #include "app/CommandLine/CommandLine.h"
 #include "platform/Choice/PlatformChoice.h"
 
+#include <csignal>
+
 int main(int argc, char **argv)
 {
-    return tessaly::runCommandLine(argc, argv, { .screenSource = tessaly::PlatformChoice::screenSource });
+    using namespace tessaly;
+    // A file that grows past the limit that the user set is then a failed write, with its sentence, and not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
+    return runCommandLine(
+        argc, argv, { .screenSource = [] { return PlatformChoice::screenSource(CaptureUse::Once); } });
 }

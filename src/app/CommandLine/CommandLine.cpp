@@ -1,8 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine/CommandLine.h"
 
+#include "app/CommandLine/CommandContext.h"
+#include "app/CommandLine/CommandOptions.h"
+#include "app/CommandLine/Text.h"
+
+#include <QLoggingCategory>
+
 namespace tessaly {
 
-int runCommandLine(int, char **, const CommandEnvironment &) { return 2; }
+namespace {
+
+constexpr Command commands[] = {
+    { "export", "Write pictures with their marks, frame and watermark", setUpExport },
+    { "document", "Make an editable document of a picture", setUpDocument },
+    { "info", "Say what is in a picture or document", setUpInfo },
+    { "capture", "Take a picture of the screen", setUpCapture },
+};
+
+ExitStatus run(int argc, char **argv, CommandContext &context)
+{
+    if (argc < 2) {
+        context.console().message(
+            Text::tr("The desktop application is not part of this build yet; tessaly --help lists the commands."));
+        return ExitStatus::WrongUsage;
+    }
+    const ParsedArguments parsed = parseArguments(argc, argv, commands);
+    if (const auto *help = std::get_if<HelpText>(&parsed))
+        return context.print(help->text);
+    if (const auto *wrong = std::get_if<WrongUsage>(&parsed)) {
+        context.console().message(wrong->sentence);
+        return ExitStatus::WrongUsage;
+    }
+    return std::get<CommandBody>(parsed)(context);
+}
+
+} // namespace
+
+int runCommandLine(int argc, char **argv, const CommandEnvironment &environment)
+{
+    // The libraries' own remarks would stand beside our sentences; QT_LOGGING_RULES brings them back.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false\n*.warning=false"));
+    CommandContext context(environment);
+    return static_cast<int>(run(argc, argv, context));
+}
 
 } // namespace tessaly

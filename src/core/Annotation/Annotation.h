@@ -9,8 +9,6 @@
 #include <QRectF>
 #include <QUuid>
 
-#include <numbers>
-
 namespace tessaly {
 
 /// One mark on a capture: its kind, two anchor points, and every style field that any kind needs.
@@ -53,6 +51,9 @@ struct Annotation {
     Annotation() = default;
     Annotation(AnnotationKind markKind, QPointF first, QPointF second) : kind(markKind), p1(first), p2(second) { }
 
+    /// The defaults under an identity that is known already; a fresh one costs a call into the system.
+    explicit Annotation(QUuid identity) : id(identity) { }
+
     /// The box of the two anchors, whichever way it was dragged.
     QRectF rect() const;
 
@@ -74,6 +75,9 @@ struct Annotation {
 
     QJsonObject toJson() const;
 
+    /// The first field that JSON cannot hold, a number that is not finite; null when all can be written.
+    const char *unwritableKey() const;
+
     /// "kind", "p1" and "p2" are required, any other key may be missing; a value of another type, or an unknown name
     /// of a case, fails the whole mark, and the sentence names the key.
     static Result<Annotation> fromJson(const QJsonObject &object);
@@ -84,7 +88,8 @@ struct Annotation {
 template <>
 struct json::Codec<QPointF> {
     static bool read(const QJsonValue &value, QPointF &target);
-    static QJsonValue write(QPointF value) { return QJsonArray { value.x(), value.y() }; }
+    static bool writable(QPointF value) { return std::isfinite(value.x()) && std::isfinite(value.y()); }
+    static QJsonValue write(QPointF value) { return QJsonArray { value.x() + 0.0, value.y() + 0.0 }; }
 };
 
 template <>

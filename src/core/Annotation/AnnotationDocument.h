@@ -18,8 +18,12 @@ struct AnnotationDocument {
     static constexpr qint64 maxJsonBytes = qint64(128) * 1024 * 1024;
     static constexpr int maxAnnotations = 50'000;
 
+    /// The most JSON keys and values, above a million points of pen strokes: what a hostile text of brackets can make
+    /// the parser take stays below 700 MB.
+    static constexpr int maxJsonValues = 8'000'000;
+
     int version = currentVersion;
-    QSizeF canvasSize; ///< points
+    QSizeF canvasSize { 0, 0 }; ///< points
     QList<Annotation> annotations; ///< the first is drawn first
     int nextStampNumber = 1;
     std::optional<QSizeF> pixelSize;
@@ -33,16 +37,25 @@ struct AnnotationDocument {
     /// Why the first of them could not be read; never stored and not compared.
     QString firstSkippedReason;
 
-    /// Pretty-printed JSON with sorted keys: equal documents give equal bytes. Fails for a number that JSON cannot hold.
+    /// Pretty-printed JSON with sorted keys: equal documents give equal bytes. Fails for a number that JSON cannot
+    /// hold, and for what would be too much to read back.
     Result<QByteArray> encoded() const;
 
-    /// A mark that cannot be read is left out and counted; anything else that is wrong fails, and the sentence says what.
+    /// A mark that cannot be read is left out and counted; anything else that is wrong fails. The sentence says what
+    /// and where, and not in which file.
     static Result<AnnotationDocument> decoded(const QByteArray &json);
 
     /// The same of either a document or a bare list of marks, which stands for a document without canvas.
     static Result<AnnotationDocument> decodedDocumentOrList(const QByteArray &json);
 
+    /// The version that a text names, also when the rest of it cannot be decoded; 1 when it names none.
+    static int probedVersion(const QByteArray &json);
+
     bool operator==(const AnnotationDocument &other) const;
 };
+
+/// A frame or a watermark from the JSON of the record alone, or of a document that has one.
+Result<FrameStyle> decodedFrame(const QByteArray &json);
+Result<Watermark> decodedWatermark(const QByteArray &json);
 
 } // namespace tessaly

@@ -22,7 +22,7 @@ struct Package {
 /// A package as it was read.
 struct Contents {
     AnnotationDocument document;
-    RasterImage image; ///< its point size is the document's canvas, or the PNG's pixels without one
+    RasterImage image; ///< its point size is the document's canvas, or the PNG's pixels without a usable one
 };
 
 enum class FailureKind { NewerVersion, Damaged };
@@ -30,24 +30,28 @@ enum class FailureKind { NewerVersion, Damaged };
 struct Failure {
     FailureKind kind = FailureKind::Damaged;
     int version = 0; ///< of the document, for NewerVersion
+    QString detail; ///< what exactly is wrong with a damaged document, as a sentence; not compared
 
     /// The sentence for the user.
     QString description() const;
-    bool operator==(const Failure &) const = default;
+    bool operator==(const Failure &other) const { return kind == other.kind && version == other.version; }
 };
 
 /// The package of an open capture. Without a thumbnail it is still whole.
 Result<Package, Failure> package(const AnnotationStore &store);
 
-Result<Package> package(const AnnotationDocument &document, QByteArray imagePng, std::optional<QByteArray> thumbnailPng);
+Result<Package> package(
+    const AnnotationDocument &document, QByteArray imagePng, std::optional<QByteArray> thumbnailPng);
 
-/// Writes the package whole; one that stands at `path` is replaced only when the new one is complete.
+/// Writes the package whole; one that stands at `path` is replaced only when the new one is complete. A folder that is
+/// no package is never replaced.
 Outcome write(const Package &package, const QString &path);
 
 /// Whether the path names a document: by its extension, or by being a folder that holds one.
 bool isDocument(const QString &path);
 
-/// Reads a package. Entries must be regular files inside the folder; links are not followed.
+/// Reads a package. Entries must be regular files inside the folder; links are not followed. A canvas that stands for
+/// less than 0.01 or more than 100 pixels a point is taken as none; the resolution that `options` asks for is not used.
 Result<Contents, Failure> contents(const QString &path, const ImageReadOptions &options = {});
 
 /// "Tessaly <version> (<build>)".

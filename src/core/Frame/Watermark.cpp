@@ -3,17 +3,21 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tessaly {
 
 static constexpr std::tuple fields {
-    json::Field { "kind", &Watermark::kind },
-    json::Field { "text", &Watermark::text },
-    json::Field { "imageData", &Watermark::imageData },
     json::Field { "colorHex", &Watermark::colorHex },
-    json::Field { "position", &Watermark::position },
+    json::Field { "imageData", &Watermark::imageData },
+    json::Field { "kind", &Watermark::kind },
     json::Field { "opacity", &Watermark::opacity },
+    json::Field { "position", &Watermark::position },
     json::Field { "size", &Watermark::size },
+    json::Field { "text", &Watermark::text },
 };
+static_assert(json::areSorted(fields));
 
 QPointF anchor(WatermarkPosition position)
 {
@@ -29,13 +33,25 @@ bool Watermark::isVisible() const
     return kind == WatermarkKind::Text ? !QStringView(text).trimmed().isEmpty() : imageData.has_value();
 }
 
+Watermark Watermark::drawable() const
+{
+    const Watermark fresh;
+    Watermark watermark = *this;
+    watermark.opacity = std::isnan(opacity) ? fresh.opacity : std::clamp(opacity, 0.0, 1.0);
+    watermark.size = std::isnan(size) ? fresh.size : std::clamp(size, 0.0, 2.0);
+    return watermark;
+}
+
 QJsonObject Watermark::toJson() const { return json::write(*this, fields); }
+const char *Watermark::unwritableKey() const { return json::firstUnwritable(*this, fields); }
 
 Result<Watermark> Watermark::fromJson(const QJsonObject &object)
 {
     Watermark watermark;
-    if (const char *key = json::readOver(watermark, object, fields))
-        return Failure { QCoreApplication::translate("Watermark", "The watermark's “%1” has a value of the wrong type.").arg(QLatin1StringView(key)) };
+    if (const char *key = json::readOver(watermark, object, fields)) {
+        const QString sentence = QCoreApplication::translate("Watermark", "The watermark's “%1” cannot be %2.");
+        return Failure { sentence.arg(QLatin1StringView(key), json::excerpt(object[QLatin1StringView(key)])) };
+    }
     return watermark;
 }
 

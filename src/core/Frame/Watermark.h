@@ -50,8 +50,15 @@ struct Watermark {
 
     QJsonObject toJson() const;
 
+    /// The first field that JSON cannot hold, a number that is not finite; null when all can be written.
+    const char *unwritableKey() const;
+
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<Watermark> fromJson(const QJsonObject &object);
+
+    /// The watermark with its numbers in the range that can be drawn: opacity 0 to 1, size 0 to 2. What is no number at
+    /// all becomes the default.
+    Watermark drawable() const;
 
     bool operator==(const Watermark &) const = default;
 

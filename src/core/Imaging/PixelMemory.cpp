@@ -11,7 +11,8 @@ QImage allocate(QSize pixelSize, QImage::Format format)
     constexpr size_t hugePageBytes = size_t(2) << 20;
     if (pixelSize.isEmpty())
         return {};
-    const size_t bytesPerLine = (size_t(pixelSize.width()) * QImage::toPixelFormat(format).bitsPerPixel() / 8 + 3) / 4 * 4;
+    const size_t bytesPerLine
+        = (size_t(pixelSize.width()) * QImage::toPixelFormat(format).bitsPerPixel() / 8 + 3) / 4 * 4;
     const size_t bytes = bytesPerLine * size_t(pixelSize.height());
     if (bytes < 2 * hugePageBytes)
         return QImage(pixelSize, format);

@@ -15,10 +15,11 @@ struct SettingKey {
     T fallback;
 };
 
-/// Every setting that Tessaly knows. Strings are given as char arrays and read as QString; `Bytes` is absent by default.
+/// Every setting that Tessaly knows. Strings are given as char arrays and read as QString; `Bytes` is absent by
+/// default.
 namespace SettingKeys {
 
-/// Stored JSON of a record, kept as it was written.
+/// Stored JSON of a record, kept as it was written; UTF-8 as all JSON.
 struct Bytes { };
 
 inline constexpr SettingKey<const char *> exportFormat { "exportFormat", "png" };

@@ -6,6 +6,8 @@
 
 #include <QJsonObject>
 
+#include <optional>
+
 namespace tessaly {
 
 /// The user's settings: a flat JSON object in one file. Only what differs from its default is stored; keys that this
@@ -24,21 +26,25 @@ public:
     QString value(const SettingKey<const char *> &key) const;
     std::optional<QByteArray> value(const SettingKey<SettingKeys::Bytes> &key) const;
 
-    /// Store and write the file whole. A file that could not be read is put aside before the first write.
+    /// Store and write the file whole; a number must be finite. A file that could not be read is put aside, as
+    /// "settings.json.unreadable-1", before the first write. Where writing fails the value still holds for this run,
+    /// and the next write brings it along.
     Outcome set(const SettingKey<bool> &key, bool value);
     Outcome set(const SettingKey<double> &key, double value);
     Outcome set(const SettingKey<const char *> &key, const QString &value);
     Outcome set(const SettingKey<SettingKeys::Bytes> &key, const QByteArray &value);
 
-    /// Why the stored settings could not be read; empty when they could.
+    /// Why the stored settings could not be read; empty when they could, and once their file is put aside.
     const std::optional<Failure> &problem() const { return m_problem; }
 
 private:
     Outcome store(const char *key, const QJsonValue &value, const QJsonValue &fallback);
+    Outcome write();
 
     QString m_path;
     QJsonObject m_values;
     std::optional<Failure> m_problem;
+    bool m_written = true; ///< the file, or its absence, holds m_values
 };
 
 } // namespace tessaly

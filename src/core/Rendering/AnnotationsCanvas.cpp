@@ -1,8 +1,99 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/AnnotationsCanvas.h"
 
+#include "core/Base/Parallel.h"
+#include "core/Imaging/PixelMemory.h"
+#include "core/Rendering/PreparedCanvas.h"
+
+#include <QPainter>
+
+#include <cstring>
+
 namespace tessaly {
 
-void AnnotationsCanvas::draw(QPainter &) const { }
+ImageEffects::NoiseSeed AnnotationsCanvas::noiseSeedOfThisRun()
+{
+    static const ImageEffects::NoiseSeed seed = ImageEffects::NoiseSeed::random();
+    return seed;
+}
+
+void AnnotationsCanvas::draw(QPainter &painter) const
+{
+    const PixelGrid grid { painter.deviceTransform() };
+    if (!grid.toPixels.isInvertible())
+        return;
+    const PreparedCanvas prepared(*this, grid, Parallel::defaultThreadCount());
+    const QPaintDevice *device = painter.device();
+    const double deviceScale = device ? device->devicePixelRatioF() : 1;
+    const QRectF all(0, 0, device ? device->width() * deviceScale : 0, device ? device->height() * deviceScale : 0);
+    painter.save();
+    prepared.paint({ painter, nullptr, outwardRect(all) });
+    painter.restore();
+}
+
+namespace {
+
+/// The capture as it lies below the marks: copied where pixel falls on pixel, else stretched once.
+class BaseLayer {
+public:
+    BaseLayer(const RasterImage &base, const CaptureSample &sample, QSize pixelSize) : m_pixels(base.pixels)
+    {
+        if (m_pixels.size() == pixelSize)
+            return;
+        // Stretching mixes neighbouring pixels, so it must not see what is hidden.
+        m_pixels = sample.region(sample.pixelBounds())
+                       .scaled(pixelSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                       .convertToFormat(base.pixels.format());
+    }
+
+    bool isEmpty() const { return m_pixels.isNull(); }
+
+    void copyRows(QImage &target, int firstRow, int endRow) const
+    {
+        for (int y = firstRow; y < endRow; ++y)
+            std::memcpy(target.scanLine(y), m_pixels.constScanLine(y), size_t(m_pixels.width()) * 4);
+    }
+
+private:
+    QImage m_pixels;
+};
+
+/// The whole picture as an object of its own over the same memory, for one thread.
+QImage sharedView(QImage &image, uchar *bits)
+{
+    return QImage(bits, image.width(), image.height(), image.bytesPerLine(), image.format());
+}
+
+} // namespace
+
+QImage AnnotationsCanvas::drawnOver(const RasterImage &base, QSize pixelSize, double scale, int threads) const
+{
+    const PixelGrid grid = PixelGrid::scaledBy(scale);
+    const RasterImage pixels { base.pixels.hasAlphaChannel()
+            ? base.pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+            : base.pixels.convertToFormat(QImage::Format_RGB32),
+        base.pointSize };
+    AnnotationsCanvas sampling = *this;
+    sampling.source = source ? source : pixels;
+    const PreparedCanvas prepared(sampling, grid, threads);
+    const BaseLayer below(pixels, prepared.sample(), pixelSize);
+    QImage result = PixelMemory::allocate(pixelSize, pixels.pixels.format());
+    if (below.isEmpty() || result.isNull())
+        return {};
+    constexpr int rowsInBand = 128; // a band of a wide screen stays in the processor's cache
+    uchar *bits = result.bits();
+    Parallel::inBands(
+        result.height(), (result.height() + rowsInBand - 1) / rowsInBand, threads, [&](int first, int end) {
+            // All bands paint with the same coordinates and differ in their clip alone, hence the same bytes.
+            QImage view = sharedView(result, bits);
+            below.copyRows(view, first, end);
+            const QRect clip(0, first, view.width(), end - first);
+            QPainter painter(&view);
+            painter.setClipRect(clip);
+            painter.setTransform(grid.toPixels);
+            prepared.paint({ painter, &view, clip });
+        });
+    return result;
+}
 
 } // namespace tessaly

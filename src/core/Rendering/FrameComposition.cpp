@@ -1,8 +1,101 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/FrameComposition.h"
 
+#include "core/Base/Parallel.h"
+#include "core/Imaging/ContinuousCorners.h"
+#include "core/Imaging/PixelMemory.h"
+#include "core/Rendering/FrameBackground.h"
+#include "core/Rendering/FrameShadow.h"
+#include "core/Rendering/PictureCaches.h"
+#include "core/Rendering/WatermarkPainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
 namespace tessaly {
 
-QImage FrameComposition::rendered(double, int) const { return image.pixels; }
+namespace {
+
+/// Empty where there is nothing to draw, or more than a picture may hold.
+QSize pixelsOf(QSizeF points, double scale)
+{
+    const double width = std::round(points.width() * scale), height = std::round(points.height() * scale);
+    if (!(width >= 1 && height >= 1 && width * height <= double(maxPicturePixels)))
+        return {};
+    return { static_cast<int>(width), static_cast<int>(height) };
+}
+
+/// One painter a band over the same pixels, so that neither bands nor threads change a byte.
+template <class Paint>
+void paintInBands(QImage &image, int threads, Paint paint)
+{
+    constexpr int rowsInBand = 128;
+    uchar *bits = image.bits();
+    const int bands = (image.height() + rowsInBand - 1) / rowsInBand;
+    Parallel::inBands(image.height(), bands, threads, [&](int first, int end) {
+        QImage view(bits, image.width(), image.height(), image.bytesPerLine(), image.format());
+        const QRect band(0, first, image.width(), end - first);
+        QPainter painter(&view);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.setClipRect(band);
+        paint(PaintTarget { painter, &view, band });
+    });
+}
+
+QImage framed(
+    const FrameComposition &composition, const FrameStyle &frame, const QImage &content, double scale, int threads)
+{
+    const FrameLayout &layout = composition.layout;
+    const FrameBackground background(frame, layout.canvasSize, composition.forEditor);
+    const FrameLayout::Shadow shadow = FrameLayout::shadowMetrics(frame, layout);
+    const QPoint origin = (layout.imageOrigin * scale).toPoint();
+    const double cornerRadius = std::max(frame.cornerRadius, 0.0) * scale;
+    const QPainterPath shape = continuousCornerPath(QRectF(content.rect()), cornerRadius);
+    const FrameShadow soft(content, shape, cornerRadius, shadow.radius * scale);
+    const QPoint shadowOrigin = origin + QPoint(0, static_cast<int>(std::lround(shadow.yOffset * scale)));
+
+    const QSize size = pixelsOf(layout.canvasSize, scale);
+    QImage canvas = PixelMemory::allocate(
+        size, background.isOpaque() ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    if (canvas.isNull())
+        return {};
+    paintInBands(canvas, threads, [&](const PaintTarget &target) {
+        if (!background.isOpaque()) {
+            for (int y = target.clip.top(); y <= target.clip.bottom(); ++y)
+                std::fill_n(reinterpret_cast<QRgb *>(target.pixels->scanLine(y)), size.width(), 0u);
+        }
+        target.painter.scale(scale, scale);
+        background.paint(target.painter);
+        soft.blend(*target.pixels, target.clip.top(), target.clip.bottom() + 1, shadowOrigin, shadow.opacity);
+        target.painter.resetTransform();
+        target.painter.translate(origin);
+        target.painter.fillPath(shape, QBrush(content));
+    });
+    return canvas;
+}
+
+} // namespace
+
+QImage FrameComposition::rendered(double scale, int threads) const
+{
+    const QSize size = pixelsOf(layout.canvasSize, scale), contentSize = pixelsOf(layout.imageSize, scale);
+    if (size.isEmpty() || contentSize.isEmpty() || image.isEmpty())
+        return {};
+    QImage picture = content.drawnOver(image, contentSize, scale, threads);
+    if (frame && !picture.isNull())
+        picture = framed(*this, *frame, picture, scale, threads);
+    if (!watermark || picture.isNull())
+        return picture;
+    const PreparedMark mark = prepareWatermark(*watermark, layout.canvasSize, scale);
+    if (mark.steps.empty())
+        return picture;
+    paintInBands(picture, threads, [&](const PaintTarget &target) {
+        target.painter.scale(scale, scale);
+        paint(mark, target);
+    });
+    return picture;
+}
 
 } // namespace tessaly

@@ -1,0 +1,1 @@
+tessaly_bench(Blur USES core/Imaging)

@@ -1,0 +1,1 @@
+tessaly_bench(Obscure USES core/Imaging)

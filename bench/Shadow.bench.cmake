@@ -1,0 +1,1 @@
+tessaly_bench(Shadow USES core/Imaging)

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Rendering/TextShaper.h"
+
+#include "core/Rendering/EmojiClusters.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QRawFont>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace tessaly {
+
+namespace {
+
+/// Texts are laid out at this size in pixels and then scaled. It is the size at which the emoji font's pictures are
+/// stored, so that they come out as they are.
+constexpr int layoutSize = 109;
+
+/// No mark shows more; a text of many megabytes in a file must not stop the program.
+constexpr qsizetype longestLine = 4000, mostLines = 2000;
+
+const QString emojiFamily = QStringLiteral("Noto Color Emoji");
+
+QList<QTextLayout::FormatRange> emojiFormats(const QString &line, const QFont &font)
+{
+    QList<QTextLayout::FormatRange> formats;
+    for (const TextSpan &span : emojiSpans(line)) {
+        QTextLayout::FormatRange &range = formats.emplace_back();
+        range.start = static_cast<int>(span.start);
+        range.length = static_cast<int>(span.length);
+        range.format.setFontFamilies(QStringList { emojiFamily } + font.families());
+        range.format.setFontWeight(QFont::Normal);
+        range.format.setFontItalic(false);
+    }
+    return formats;
+}
+
+QRect inkOf(const QImage &picture)
+{
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(row[x]) != 0)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+QStringList linesOf(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(u'\r', u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+    return text.replace(QChar::ParagraphSeparator, u'\n').split(u'\n').mid(0, mostLines);
+}
+
+} // namespace
+
+size_t qHash(const TextFace &face, size_t seed) { return qHashMulti(seed, face.family, int(face.weight), face.italic); }
+
+const QString &TextShaper::systemFamily()
+{
+    if (m_systemFamily.isEmpty()) {
+        for (const char *family : { "Noto Sans", "DejaVu Sans" }) {
+            if (m_systemFamily.isEmpty() && QFontDatabase::hasFamily(QLatin1StringView(family)))
+                m_systemFamily = QLatin1StringView(family);
+        }
+        if (m_systemFamily.isEmpty())
+            m_systemFamily = QStringLiteral("Sans Serif");
+    }
+    return m_systemFamily;
+}
+
+QFont TextShaper::fontOf(const TextFace &face)
+{
+    QStringList families;
+    if (!face.family.isEmpty() && QFontDatabase::hasFamily(face.family))
+        families += face.family;
+    families += { systemFamily(), emojiFamily };
+    QFont font;
+    font.setFamilies(families);
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(layoutSize);
+    font.setWeight(face.weight);
+    font.setItalic(face.italic);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+const TextShape &TextShaper::shape(const QString &text, const TextFace &face)
+{
+    const std::pair key { text, face };
+    if (const auto known = m_shapes.constFind(key); known != m_shapes.constEnd())
+        return *known;
+    const QFont font = fontOf(face);
+    const QFontMetricsF metrics(font);
+    TextShape shape;
+    shape.ascent = metrics.ascent() / layoutSize;
+    shape.capHeight = metrics.capHeight() / layoutSize;
+    shape.lineHeight = metrics.height() / layoutSize;
+    shape.outline.setFillRule(Qt::WindingFill);
+    const QStringList lines = linesOf(text);
+    for (qsizetype index = 0; index < lines.size(); ++index)
+        addLine(lines[index].left(longestLine), font, { 0, double(index) * metrics.height() }, shape);
+    shape.outline = QTransform::fromScale(1.0 / layoutSize, 1.0 / layoutSize).map(shape.outline);
+    shape.size.setHeight(double(lines.size()) * shape.lineHeight);
+    shape.ink = shape.outline.boundingRect();
+    for (const TextShape::Picture &picture : std::as_const(shape.pictures))
+        shape.ink |= picture.target;
+    return *m_shapes.insert(key, shape);
+}
+
+void TextShaper::addLine(const QString &line, const QFont &font, QPointF origin, TextShape &shape)
+{
+    QTextLayout layout(line, font);
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setUseDesignMetrics(true);
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setTabStopDistance(layoutSize * 2);
+    layout.setTextOption(option);
+    layout.setFormats(emojiFormats(line, font));
+    layout.beginLayout();
+    QTextLine set = layout.createLine();
+    if (!set.isValid())
+        return layout.endLayout();
+    set.setLineWidth(1e6);
+    layout.endLayout();
+    shape.size.setWidth(std::max(shape.size.width(), set.naturalTextWidth() / layoutSize));
+    // The emoji's own metrics may move a line's baseline; all lines keep the text font's.
+    const QPointF baseline(0, shape.ascent * layoutSize - set.ascent());
+    const auto runs = layout.glyphRuns();
+    for (const QGlyphRun &run : runs)
+        addRun(run, origin + baseline, shape);
+}
+
+void TextShaper::addRun(const QGlyphRun &run, QPointF origin, TextShape &shape)
+{
+    const QRawFont font = run.rawFont();
+    const auto glyphs = run.glyphIndexes();
+    const auto positions = run.positions();
+    const bool inColor = font.familyName() == emojiFamily;
+    for (qsizetype index = 0; index < glyphs.size(); ++index) {
+        const QPointF position = origin + positions[index];
+        if (!inColor) {
+            shape.outline.addPath(font.pathForGlyph(glyphs[index]).translated(position));
+            continue;
+        }
+        const TextShape::Picture &glyph = colorGlyph(font, glyphs[index]);
+        if (!glyph.picture.isNull())
+            shape.pictures += { glyph.picture, glyph.target.translated(position / layoutSize) };
+    }
+}
+
+const TextShape::Picture &TextShaper::colorGlyph(const QRawFont &font, quint32 glyph)
+{
+    if (const auto known = m_colorGlyphs.constFind(glyph); known != m_colorGlyphs.constEnd())
+        return *known;
+    constexpr int side = 3 * layoutSize;
+    const QPoint origin(layoutSize, 2 * layoutSize);
+    QImage page(side, side, QImage::Format_ARGB32_Premultiplied);
+    page.fill(Qt::transparent);
+    QGlyphRun run;
+    run.setRawFont(font);
+    run.setGlyphIndexes({ glyph });
+    run.setPositions({ QPointF() });
+    QPainter painter(&page);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawGlyphRun(origin, run);
+    painter.end();
+    const QRect ink = inkOf(page);
+    const QRectF target(ink.translated(-origin));
+    TextShape::Picture picture { ink.isEmpty() ? QImage() : page.copy(ink),
+        { target.topLeft() / layoutSize, target.size() / layoutSize } };
+    return *m_colorGlyphs.insert(glyph, picture);
+}
+
+} // namespace tessaly

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/app/CommandLine/Program.h"
+
+#include <QTest>
+
+using namespace tessaly::test;
+
+class ArgumentsTest : public QObject {
+    Q_OBJECT
+
+    Program m_program;
+
+private Q_SLOTS:
+    void wrongUsageEndsWithTwo_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("fragment");
+        QTest::newRow("nothing") << QStringList() << "desktop application";
+        QTest::newRow("unknown command") << QStringList { "exprot" } << "\"exprot\"";
+        QTest::newRow("unknown option") << QStringList { "export", "--loud" } << "\"--loud\"";
+        QTest::newRow("no command of capture") << QStringList { "capture" } << "command";
+        QTest::newRow("no input") << QStringList { "export", "-o", "x.png" } << "INPUT";
+        QTest::newRow("no output") << QStringList { "export", "a.png" } << "--output";
+        QTest::newRow("output without value") << QStringList { "export", "a.png", "-o" } << "--output";
+        QTest::newRow("quality too high")
+            << QStringList { "export", "a.png", "-o", "x", "--quality", "1.1" } << "\"1.1\"";
+        QTest::newRow("quality not a number")
+            << QStringList { "export", "a.png", "-o", "x", "--quality", "nan" } << "nan";
+        QTest::newRow("scale of nothing") << QStringList { "export", "a.png", "-o", "x", "--scale", "0" } << "--scale";
+        QTest::newRow("unknown format") << QStringList { "export", "a.png", "-o", "x", "--format", "heic" } << "heic";
+        QTest::newRow("part of a pixel") << QStringList { "info", "a.png", "--max-pixels", "1.5" } << "--max-pixels";
+        QTest::newRow("two to standard output") << QStringList { "export", "a.png", "b.png", "-o", "-" } << "folder";
+        QTest::newRow("two into a file") << QStringList { "export", "a.png", "b.png", "-o", "file" } << "folder";
+        QTest::newRow("standard input twice") << QStringList { "export", "-", "-", "-o", "." } << "once";
+        QTest::newRow("a document is no picture") << QStringList { "export", "a.png", "-o", "x.tessaly" } << "document";
+        QTest::newRow("a picture is no document") << QStringList { "document", "a.png", "-o", "x.png" } << ".tessaly";
+        QTest::newRow("display 0") << QStringList { "capture", "full-screen", "-o", "x", "--display", "0" }
+                                   << "--display";
+    }
+
+    void wrongUsageEndsWithTwo()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, fragment);
+        m_program.put("file", "x");
+        const QStringList before = m_program.tree();
+        const Finished finished = m_program.run(arguments);
+        QCOMPARE(finished.status, 2);
+        const QString line = onlyLine(finished);
+        QVERIFY2(line.startsWith("tessaly: ") && line.contains(fragment), qPrintable(line));
+        QVERIFY(finished.output.isEmpty());
+        QCOMPARE(m_program.tree(), before);
+    }
+
+    void helpFitsATerminal_data()
+    {
+        QTest::addColumn<QStringList>("command");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("tessaly") << QStringList()
+                                 << QStringList { "export", "document", "info", "capture", "--version" };
+        QTest::newRow("export") << QStringList { "export" }
+                                << QStringList { "--output", "--format", "--quality", "--annotations", "--frame",
+                                       "--watermark", "--scale", "--max-pixels", "INPUT..." };
+        QTest::newRow("document") << QStringList { "document" } << QStringList { "--output", "--annotations" };
+        QTest::newRow("info") << QStringList { "info" } << QStringList { "--json", "--frame" };
+        QTest::newRow("capture") << QStringList { "capture" } << QStringList { "full-screen" };
+        QTest::newRow("full-screen") << QStringList { "capture", "full-screen" } << QStringList { "--display" };
+    }
+
+    void helpFitsATerminal()
+    {
+        QFETCH(QStringList, command);
+        QFETCH(QStringList, names);
+        const Finished finished = m_program.run(command + QStringList { "--help" });
+        QCOMPARE(finished.status, 0);
+        QCOMPARE(finished.messages, QString());
+        const QString page = QString::fromUtf8(finished.output);
+        for (const QString &line : page.split(u'\n'))
+            QVERIFY2(line.size() <= 80, qPrintable(line));
+        for (const QString &name : names)
+            QVERIFY2(page.contains(name), qPrintable(name));
+    }
+
+    void versionIsOneLine()
+    {
+        const Finished finished = m_program.run({ "--version" });
+        QCOMPARE(finished.status, 0);
+        QVERIFY(QRegularExpression("^Tessaly [0-9.]+ \\([0-9]+\\)\n$").match(finished.output).hasMatch());
+    }
+};
+
+QTEST_GUILESS_MAIN(ArgumentsTest)
+#include "ArgumentsTest.moc"

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/VirtualScreen.h"
+
+namespace tessaly::test {
+
+VirtualScreen::VirtualScreen(const QString &geometry)
+{
+    // The server picks a free number and prints it when it is ready for clients.
+    m_server.setStandardErrorFile(QProcess::nullDevice());
+    m_server.start(QStringLiteral("Xvfb"),
+        { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"), geometry,
+            QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset") });
+    while (!m_server.canReadLine() && m_server.waitForReadyRead(20'000)) { }
+    if (m_server.canReadLine())
+        m_displayName = u':' + QString::fromLatin1(m_server.readLine().trimmed());
+}
+
+VirtualScreen::~VirtualScreen()
+{
+    m_server.terminate();
+    if (!m_server.waitForFinished(5'000))
+        m_server.kill();
+    m_server.waitForFinished();
+}
+
+int VirtualScreen::run(const QString &program, const QStringList &arguments) const
+{
+    QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), m_displayName);
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, arguments);
+    return process.waitForFinished() ? process.exitCode() : -1;
+}
+
+} // namespace tessaly::test

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+namespace tessaly::test {
+
+/// An X server without a monitor, alive as long as the object.
+class VirtualScreen {
+public:
+    /// `geometry` as Xvfb takes it, "640x480x24". `displayName()` is empty when the server did not start.
+    explicit VirtualScreen(const QString &geometry);
+    ~VirtualScreen();
+
+    QString displayName() const { return m_displayName; }
+
+    /// Runs a program on this display and waits for its end; the exit status, -1 if it did not run.
+    int run(const QString &program, const QStringList &arguments) const;
+
+private:
+    QProcess m_server;
+    QString m_displayName;
+};
+
+} // namespace tessaly::test
