@@ -1,182 +1,162 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/BlockSampling.h"
 
-#include "core/Base/Parallel.h"
-#include "core/Imaging/PixelMemory.h"
+#include "core/Imaging/WideVectors.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 #include <vector>
 
 namespace tessaly::BlockSampling {
 
 using GaussianBlur::Outside;
-using Sample = std::uint16_t;
+using Sample = SamplePlane::Sample;
 
 namespace {
 
-int channelsOf(const QImage &image)
+template <int lanes>
+inline __attribute__((always_inline)) void addLanes(const uchar *bytes, qsizetype step, int count, Sample *sums)
 {
-    return image.depth() / (image.depth() > 32 || image.format() == QImage::Format_Grayscale16 ? 16 : 8);
+    Sample added[lanes] = {};
+    for (int row = 0; row < count; ++row, bytes += step) {
+        for (int lane = 0; lane < lanes; ++lane)
+            added[lane] = static_cast<Sample>(added[lane] + bytes[lane]);
+    }
+    for (int lane = 0; lane < lanes; ++lane)
+        sums[lane] = static_cast<Sample>(sums[lane] + added[lane]);
 }
 
-int blocksOver(int length, int side) { return (length + side - 1) / side + 2; }
+/// Adds `count` rows of bytes that lie `step` bytes apart to sums of 16 bits, which hold 256 bytes each.
+TESSALY_WIDE_VECTORS
+void addRows(const uchar *first, qsizetype step, int count, int bytes, Sample *sums)
+{
+    constexpr int lanes = 32;
+    int index = 0;
+    for (; index + lanes <= bytes; index += lanes)
+        addLanes<lanes>(first + index, step, count, sums + index);
+    for (; index < bytes; ++index)
+        addLanes<1>(first + index, step, count, sums + index);
+}
 
-/// Sums of blocks within one row of blocks. 16 bits hold the sum of 16 × 16 bytes.
+/// The sums of the block row's pixels, one below the other, in the pixel columns `from` to before `to`.
+void sumBlockRow(const QImage &image, const Grid &grid, Outside outside, int blockRow, int from, int to, Sample *sums)
+{
+    const int top = (blockRow - 1) * grid.side, bottom = top + grid.side, bytes = (to - from) * grid.channels;
+    const int height = image.height();
+    std::fill_n(sums, bytes, Sample(0));
+    const auto add = [&](int y, qsizetype step, int count) {
+        if (count > 0)
+            addRows(image.constScanLine(y) + qsizetype(from) * grid.channels, step, count, bytes, sums);
+    };
+    const int firstInside = std::clamp(top, 0, height), endInside = std::clamp(bottom, 0, height);
+    add(std::min(firstInside, height - 1), image.bytesPerLine(), endInside - firstInside);
+    if (outside == Outside::Edge) {
+        add(0, 0, std::min(firstInside, bottom) - top);
+        add(height - 1, 0, bottom - std::max(endInside, top));
+    }
+}
+
+/// Adds neighbouring pixels until one is left for each block.
 template <int channels>
-class BlockRow {
-public:
-    BlockRow(int width, int side, Outside outside) :
-        m_width(width),
-        m_side(side),
-        m_outside(outside),
-        m_count(blocksOver(width, side)),
-        m_sums(std::size_t(m_count) * side * channels)
-    {
-    }
-
-    void clear() { std::fill(m_sums.begin(), m_sums.end(), Sample(0)); }
-
-    void add(const uchar *row)
-    {
-        Sample *sums = m_sums.data() + m_side * channels;
-        const int count = m_width * channels;
-        for (int index = 0; index < count; ++index)
-            sums[index] = static_cast<Sample>(sums[index] + row[index]);
-    }
-
-    /// Writes the means of the blocks; the sums are used up.
-    void finish(Sample *means)
-    {
-        if (m_outside == Outside::Edge)
-            continueEdges();
-        int count = m_count * m_side;
-        for (int side = m_side; side > 1; side /= 2)
-            addNeighbours(count /= 2);
-        const auto scale = static_cast<Sample>(256 / (m_side * m_side));
-        for (int index = 0; index < m_count * channels; ++index)
-            means[index] = static_cast<Sample>(m_sums[index] * scale);
-    }
-
-private:
-    void continueEdges()
-    {
-        const auto copy = [this](int from, int to) {
-            std::copy_n(m_sums.begin() + from * channels, channels, m_sums.begin() + to * channels);
-        };
-        for (int pixel = 0; pixel < m_side; ++pixel)
-            copy(m_side, pixel);
-        for (int pixel = m_side + m_width; pixel < m_count * m_side; ++pixel)
-            copy(m_side + m_width - 1, pixel);
-    }
-
-    void addNeighbours(int count)
-    {
-        // A pixel's channels are added as one word: no sum carries into the next channel.
-        using Word = std::conditional_t<channels == 4, std::uint64_t, std::uint16_t>;
-        Sample *sums = m_sums.data();
-        for (int index = 0; index < count; ++index) {
+void addNeighbours(Sample *sums, int blocks, int side)
+{
+    // A pixel's channels are added as one word: no sum carries into the next channel.
+    using Word = std::conditional_t<channels == 4, std::uint64_t, std::uint16_t>;
+    for (int left = side / 2; left > 0; left /= 2) {
+        for (int index = 0; index < blocks * left; ++index) {
             Word pair[2];
             std::memcpy(pair, sums + 2 * index * channels, sizeof pair);
             const auto sum = static_cast<Word>(pair[0] + pair[1]);
             std::memcpy(sums + index * channels, &sum, sizeof sum);
         }
     }
-
-    int m_width, m_side;
-    Outside m_outside;
-    int m_count;
-    std::vector<Sample> m_sums;
-};
-
-template <int channels>
-void shrinkRows(const QImage &image, int side, Outside outside, QImage &samples, int first, int end)
-{
-    BlockRow<channels> blocks(image.width(), side, outside);
-    for (int block = first; block < end; ++block) {
-        blocks.clear();
-        for (int offset = 0; offset < side; ++offset) {
-            const int y = (block - 1) * side + offset, inside = std::clamp(y, 0, image.height() - 1);
-            if (outside == Outside::Edge || y == inside)
-                blocks.add(image.constScanLine(inside));
-        }
-        blocks.finish(reinterpret_cast<Sample *>(samples.bits() + block * samples.bytesPerLine()));
-    }
 }
 
-/// Draws pixels between samples: `position` counts half pixels from the middle of sample 0.
+/// A row of the picture between two rows of blocks, and between two blocks, of which the first is named.
 struct Between {
     Between(int pixel, int side) : first((2 * pixel + 1 + side) / (2 * side)), part((2 * pixel + 1 + side) % (2 * side))
     {
     }
 
-    int first; ///< the sample before; the one after is the next
-    int part; ///< of 2 · side parts of the way
+    int first;
+    int part; ///< of 2 · side parts of the way to the next
 };
 
-/// One row between two rows of samples, with 3 bits after the point.
-void mixRows(const Sample *above, const Sample *below, int part, int side, int count, Sample *row)
+/// The pixels that lie `after` 65 536ths of the way from each sample to the next pixel's; 3 bits are left after the
+/// point.
+TESSALY_WIDE_VECTORS
+void mixNeighbours(const Sample *first, const Sample *second, Sample after, int count, Sample *__restrict mixed)
 {
-    const std::uint32_t belowWeight = 65536 / (2 * side) * part, aboveWeight = 65536 - belowWeight;
+    const auto before = static_cast<Sample>(65536 - after);
     for (int index = 0; index < count; ++index) {
-        const std::uint32_t mixed = (above[index] * aboveWeight >> 16) + (below[index] * belowWeight >> 16);
-        row[index] = static_cast<Sample>((mixed + 16) >> 5);
+        const auto sum = static_cast<Sample>(
+            (std::uint32_t(first[index]) * before >> 16) + (std::uint32_t(second[index]) * after >> 16));
+        mixed[index] = static_cast<Sample>(static_cast<Sample>(sum + 16) >> 5);
     }
 }
 
-/// Widens a row of samples to `side` pixels for each interval between two of them; 8 bits after the point.
-template <int channels, int side>
-void widenRow(const Sample *row, int intervals, Sample *wide)
-{
-    for (int interval = 0; interval < intervals; ++interval, row += channels, wide += side * channels) {
-        for (int pixel = 0; pixel < side; ++pixel) {
-            const int after = (2 * pixel + 1) * (16 / side), before = 32 - after;
-            for (int channel = 0; channel < channels; ++channel)
-                wide[pixel * channels + channel]
-                    = static_cast<Sample>(row[channel] * before + row[channel + channels] * after + 128);
+/// Widens rows of block means to `side` pixels for each interval between two.
+template <int channels>
+class Widener {
+public:
+    explicit Widener(const Grid &grid) :
+        m_side(grid.side),
+        m_intervals(grid.columns() - 1),
+        m_mixed(std::size_t(m_intervals) * channels)
+    {
+    }
+
+    void widen(const Sample *row, Sample *wide)
+    {
+        if (m_side == 1) {
+            for (int index = 0; index < m_intervals * channels; ++index)
+                wide[index] = static_cast<Sample>((row[index] + 16) >> 5);
+            return;
+        }
+        for (int pixel = 0; pixel < m_side; ++pixel) {
+            const auto after = static_cast<Sample>((2 * pixel + 1) * (32768 / m_side));
+            mixNeighbours(row, row + channels, after, m_intervals * channels, m_mixed.data());
+            const Sample *from = m_mixed.data();
+            Sample *to = wide + pixel * channels;
+            const int step = m_side * channels;
+            for (const Sample *end = from + m_intervals * channels; from < end; from += channels, to += step)
+                std::memcpy(to, from, channels * sizeof(Sample));
         }
     }
-}
 
-void narrow(const Sample *wide, int count, uchar *out)
-{
-    for (int index = 0; index < count; ++index)
-        out[index] = static_cast<uchar>(wide[index] >> 8);
-}
+private:
+    int m_side, m_intervals;
+    std::vector<Sample> m_mixed;
+};
 
-template <int channels, int side>
-void enlargeRows(const QImage &samples, uchar *out, qsizetype bytesPerLine, int width, int first, int end)
+/// `below` counts for `part` 32nds.
+TESSALY_WIDE_VECTORS
+void mixRows(const Sample *above, const Sample *below, int part, int count, uchar *__restrict out)
 {
-    const int count = samples.width() * channels;
-    std::vector<Sample> row(count), wide(std::size_t(count) * side);
-    for (int y = first; y < end; ++y) {
-        const Between place(y, side);
-        mixRows(reinterpret_cast<const Sample *>(samples.constScanLine(place.first)),
-            reinterpret_cast<const Sample *>(samples.constScanLine(place.first + 1)), place.part, side, count,
-            row.data());
-        widenRow<channels, side>(row.data(), samples.width() - 1, wide.data());
-        narrow(wide.data() + side / 2 * channels, width * channels, out + y * bytesPerLine);
-    }
-}
-
-/// Blocks of one pixel: only the border and the bits after the point go.
-template <int channels>
-void roundRows(const QImage &samples, uchar *out, qsizetype bytesPerLine, int width, int first, int end)
-{
-    for (int y = first; y < end; ++y) {
-        const auto *row = reinterpret_cast<const Sample *>(samples.constScanLine(y + 1)) + channels;
-        for (int index = 0; index < width * channels; ++index)
-            out[y * bytesPerLine + index] = static_cast<uchar>((row[index] + 128) >> 8);
+    const auto aboveWeight = static_cast<Sample>(32 - part), belowWeight = static_cast<Sample>(part);
+    for (int index = 0; index < count; ++index) {
+        const auto mixed = static_cast<Sample>(above[index] * aboveWeight + below[index] * belowWeight + 128);
+        out[index] = static_cast<uchar>(mixed >> 8);
     }
 }
 
 template <int channels>
-auto enlargerFor(int side)
+void enlargeRows(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end)
 {
-    constexpr decltype(&roundRows<channels>) bySide[] = { roundRows<channels>, enlargeRows<channels, 2>,
-        enlargeRows<channels, 4>, enlargeRows<channels, 8>, enlargeRows<channels, 16> };
-    return bySide[std::countr_zero(static_cast<unsigned>(side))];
+    Widener<channels> widener(grid);
+    const int count = grid.pixelSize.width() * channels, margin = std::max(grid.side / 2, 1) * channels;
+    const int firstRow = Between(first, grid.side).first;
+    std::vector<Sample> above(std::size_t(grid.columns()) * grid.side * channels), below(above.size());
+    int widened = firstRow - 1;
+    for (int y = first; y < end; ++y) {
+        const Between place(y, grid.side);
+        for (; widened <= place.first; ++widened) {
+            above.swap(below);
+            widener.widen(means.row(widened + 1 - firstRow), below.data());
+        }
+        mixRows(
+            above.data() + margin, below.data() + margin, place.part * 16 / grid.side, count, bits + y * bytesPerLine);
+    }
 }
 
 } // namespace
@@ -188,29 +168,43 @@ double variance(int blockSide)
     return blockSide == 1 ? 0 : (square - 1) / 12 + square / 6;
 }
 
-QImage shrunk(const QImage &image, int blockSide, Outside outside, int threads)
+std::pair<int, int> Grid::rowsAround(int first, int end) const
 {
-    const int channels = channelsOf(image);
-    const QSize size(blocksOver(image.width(), blockSide), blocksOver(image.height(), blockSide));
-    QImage samples = PixelMemory::allocate(size, channels == 4 ? QImage::Format_RGBA64 : QImage::Format_Grayscale16);
-    if (samples.isNull())
-        return {};
-    const auto shrink = channels == 4 ? shrinkRows<4> : shrinkRows<1>;
-    Parallel::inBands(size.height(), 4 * threads, threads,
-        [&](int first, int end) { shrink(image, blockSide, outside, samples, first, end); });
-    return samples;
+    return { Between(first, side).first, Between(end - 1, side).first + 2 };
 }
 
-QImage enlarged(const QImage &samples, int blockSide, QSize size, QImage::Format format, int threads)
+void shrink(const QImage &image, const Grid &grid, Outside outside, SamplePlane &means, int first, int end)
 {
-    QImage out = PixelMemory::allocate(size, format);
-    if (out.isNull() || samples.isNull())
-        return {};
-    const auto enlarge = channelsOf(samples) == 4 ? enlargerFor<4>(blockSide) : enlargerFor<1>(blockSide);
-    uchar *bits = out.bits();
-    Parallel::inBands(size.height(), 4 * threads, threads,
-        [&](int first, int end) { enlarge(samples, bits, out.bytesPerLine(), size.width(), first, end); });
-    return out;
+    const int width = image.width(), channels = grid.channels, blocks = end - first;
+    const int from = (first - 1) * grid.side, to = (end - 1) * grid.side;
+    const int firstInside = std::clamp(from, 0, width), endInside = std::clamp(to, firstInside, width);
+    const auto scale = static_cast<Sample>(256 / (grid.side * grid.side));
+    const auto addPixels = channels == 4 ? addNeighbours<4> : addNeighbours<1>;
+    std::vector<Sample> sums(std::size_t(to - from) * channels);
+    Sample edge[4] = {};
+    for (int row = 0; row < grid.rows(); ++row) {
+        const auto continueEdge = [&](int pixel, int begin, int stop) {
+            if (begin < stop && outside == Outside::Edge)
+                sumBlockRow(image, grid, outside, row, pixel, pixel + 1, edge);
+            for (int place = begin; place < stop; ++place)
+                std::copy_n(edge, channels, sums.begin() + (place - from) * channels);
+        };
+        continueEdge(0, from, std::min(firstInside, to));
+        sumBlockRow(image, grid, outside, row, firstInside, endInside, sums.data() + (firstInside - from) * channels);
+        continueEdge(width - 1, std::max(endInside, from), to);
+        addPixels(sums.data(), blocks, grid.side);
+        Sample *out = means.row(row) + first * channels;
+        for (int index = 0; index < blocks * channels; ++index)
+            out[index] = static_cast<Sample>(sums[index] * scale);
+    }
+}
+
+void enlarge(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end)
+{
+    if (grid.channels == 4)
+        enlargeRows<4>(means, grid, bits, bytesPerLine, first, end);
+    else
+        enlargeRows<1>(means, grid, bits, bytesPerLine, first, end);
 }
 
 } // namespace tessaly::BlockSampling

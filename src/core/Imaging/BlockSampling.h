@@ -2,25 +2,38 @@
 #pragma once
 
 #include "core/Imaging/GaussianBlur.h"
+#include "core/Imaging/SamplePlane.h"
 
-/// A picture held as the means of its blocks, for work that looks at nothing finer.
-///
-/// The samples are 16 bits with 8 of them after the point: Format_RGBA64 stands for four channels in the picture's own
-/// order, Format_Grayscale16 for one. A border of one block lies around the blocks of the picture.
+#include <utility>
+
+/// A picture held as the means of its square blocks, for work that looks at nothing finer.
 namespace tessaly::BlockSampling {
 
 constexpr int maxBlockSide = 16;
 
-/// A Gaussian's radius must be this many blocks for the steps between them to stay below one level.
-constexpr double blocksPerRadius = 3;
-
 /// The variance in pixels that shrinking and enlarging add together.
 double variance(int blockSide);
 
-/// The means of blocks of `blockSide` pixels, a power of two up to `maxBlockSide`. Null without the memory.
-QImage shrunk(const QImage &image, int blockSide, GaussianBlur::Outside outside, int threads);
+/// The blocks of a picture, with one more block around them on every side.
+struct Grid {
+    QSize pixelSize;
+    int side = 1; ///< in pixels, a power of two up to `maxBlockSide`
+    int channels = 4; ///< bytes a pixel: 1 or 4
 
-/// The picture of `size` in `format` (8 bits a channel) that the samples describe, with straight lines between them.
-QImage enlarged(const QImage &samples, int blockSide, QSize size, QImage::Format format, int threads);
+    int columns() const { return (pixelSize.width() + side - 1) / side + 2; }
+    int rows() const { return (pixelSize.height() + side - 1) / side + 2; }
+
+    /// The rows of blocks, from the first to before the second, that the pixel rows `first` to before `end` lie
+    /// between.
+    std::pair<int, int> rowsAround(int first, int end) const;
+};
+
+/// Writes the means of the blocks in the columns of blocks `first` to before `end`.
+void shrink(
+    const QImage &image, const Grid &grid, GaussianBlur::Outside outside, SamplePlane &means, int first, int end);
+
+/// Writes the pixel rows `first` to before `end` with straight lines between the blocks. Row 0 of `means` is the row of
+/// blocks `rowsAround` names first; `bits` is the picture's first byte.
+void enlarge(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end);
 
 } // namespace tessaly::BlockSampling

@@ -1,139 +1,172 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/BoxBlur.h"
 
-#include "core/Base/Parallel.h"
-#include "core/Imaging/PixelMemory.h"
+#include "core/Imaging/WideVectors.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <vector>
 
-namespace tessaly::BoxBlur {
+namespace tessaly {
 
 using GaussianBlur::Outside;
-using Sample = std::uint16_t;
+using Sample = SamplePlane::Sample;
 
 namespace {
-
-/// A box of any width: weight 1 up to `radius` samples from its middle and `edge`, below 1, for the next.
-struct Box {
-    int radius;
-    float edge;
-    float scale; ///< 1 ÷ the sum of the weights
-
-    explicit Box(double variance) : radius(static_cast<int>((std::sqrt(1 + 12 * variance) - 1) / 2))
-    {
-        const double inner = radius * (radius + 1.0) / 3, next = (radius + 1.0) * (radius + 1.0);
-        const double width = 2 * radius + 1, share = width * (variance - inner) / (2 * (next - variance));
-        edge = static_cast<float>(share);
-        scale = static_cast<float>(1 / (width + 2 * share));
-    }
-
-    int reach() const { return radius + 1; }
-};
 
 /// So many samples side by side are worked on together.
 constexpr int laneCount = 16;
 
-struct Lanes {
-    float values[laneCount];
-};
-
-/// Blurs the rows of `in` from `first` to before `end`; it must hold `box.reach()` more on either side.
-void boxRows(const Lanes *in, Lanes *out, int first, int end, const Box &box)
+/// One box over places `first` to before `end` of interleaved lanes. `in` must hold `radius` + 1 more on either side.
+TESSALY_WIDE_VECTORS
+void blurLanes(
+    const float *__restrict in, float *__restrict out, int first, int end, int radius, float edge, float scale)
 {
-    Lanes sums {};
-    for (int row = first - box.radius; row < first + box.radius; ++row) {
+    float sums[laneCount] = {};
+    for (int place = first - radius; place < first + radius; ++place) {
         for (int lane = 0; lane < laneCount; ++lane)
-            sums.values[lane] += in[row].values[lane];
+            sums[lane] += in[place * laneCount + lane];
     }
-    for (int row = first; row < end; ++row) {
-        const float *entering = in[row + box.radius].values, *leaving = in[row - box.radius].values;
-        const float *below = in[row + box.reach()].values, *above = in[row - box.reach()].values;
+    for (int place = first; place < end; ++place) {
+        const float *entering = in + (place + radius) * laneCount, *leaving = in + (place - radius) * laneCount;
+        const float *after = entering + laneCount, *before = leaving - laneCount;
+        float *blurred = out + place * laneCount;
         for (int lane = 0; lane < laneCount; ++lane) {
-            const float sum = sums.values[lane] + entering[lane];
-            out[row].values[lane] = (sum + (below[lane] + above[lane]) * box.edge) * box.scale;
-            sums.values[lane] = sum - leaving[lane];
+            const float sum = sums[lane] + entering[lane];
+            blurred[lane] = (sum + (after[lane] + before[lane]) * edge) * scale;
+            sums[lane] = sum - leaving[lane];
         }
     }
 }
 
-/// A strip of `laneCount` samples: some rows of it are read with their surroundings, blurred and written.
-class Strip {
-public:
-    Strip(const QImage &samples, Box box, Outside outside, int rows) :
-        m_samples(samples),
-        m_channels(samples.depth() / 16),
-        m_box(box),
-        m_outside(outside),
-        m_margin(3 * box.reach()),
-        m_rows(rows + 2 * m_margin),
-        m_other(m_rows.size())
-    {
-    }
+TESSALY_WIDE_VECTORS
+void toNumbers(const Sample *__restrict samples, int count, float *__restrict numbers)
+{
+    for (int index = 0; index < count; ++index)
+        numbers[index] = samples[index];
+}
 
-    void blur(QImage &transposed, uchar *bits, int firstColumn, int firstRow, int rowCount)
-    {
-        const int count = std::min(laneCount / m_channels, m_samples.width() - firstColumn);
-        for (int row = 0; row < rowCount + 2 * m_margin; ++row)
-            read(firstRow - m_margin + row, firstColumn * m_channels, count * m_channels, m_rows[row]);
-        const int end = rowCount + 2 * m_margin, reach = m_box.reach();
-        boxRows(m_rows.data(), m_other.data(), reach, end - reach, m_box);
-        boxRows(m_other.data(), m_rows.data(), 2 * reach, end - 2 * reach, m_box);
-        boxRows(m_rows.data(), m_other.data(), m_margin, end - m_margin, m_box);
-        for (int row = 0; row < rowCount; ++row) {
-            Sample rounded[laneCount];
-            for (int lane = 0; lane < laneCount; ++lane)
-                rounded[lane] = static_cast<Sample>(static_cast<int>(m_other[m_margin + row].values[lane] + 0.5f));
-            const std::size_t bytes = m_channels * sizeof(Sample);
-            for (int column = 0; column < count; ++column)
-                std::memcpy(bits + (firstColumn + column) * transposed.bytesPerLine() + (firstRow + row) * bytes,
-                    rounded + column * m_channels, bytes);
-        }
-    }
-
-private:
-    void read(int y, int firstSample, int count, Lanes &lanes) const
-    {
-        const int inside = std::clamp(y, 0, m_samples.height() - 1);
-        if (y != inside && m_outside == Outside::Nothing)
-            count = 0;
-        Sample samples[laneCount] = {};
-        std::memcpy(samples, reinterpret_cast<const Sample *>(m_samples.constScanLine(inside)) + firstSample,
-            count * sizeof(Sample));
-        for (int lane = 0; lane < laneCount; ++lane)
-            lanes.values[lane] = samples[lane];
-    }
-
-    const QImage &m_samples;
-    int m_channels;
-    Box m_box;
-    Outside m_outside;
-    int m_margin;
-    std::vector<Lanes> m_rows, m_other;
-};
+TESSALY_WIDE_VECTORS
+void toSamples(const float *__restrict numbers, int count, Sample *__restrict samples)
+{
+    for (int index = 0; index < count; ++index)
+        samples[index] = static_cast<Sample>(static_cast<int>(numbers[index] + 0.5f));
+}
 
 } // namespace
 
-QImage columnsBlurred(const QImage &samples, double variance, Outside outside, int threads)
-{
-    // So many rows of a strip at a time: its two copies then stay within the processor's second cache.
-    constexpr int rowsAtOnce = 512;
-    QImage transposed = PixelMemory::allocate(samples.size().transposed(), samples.format());
-    if (transposed.isNull())
-        return {};
-    const int columns = laneCount / (samples.depth() / 16), rows = std::min(rowsAtOnce, samples.height());
-    const int strips = (samples.width() + columns - 1) / columns;
-    uchar *bits = transposed.bits();
-    Parallel::inBands(strips, 4 * threads, threads, [&](int firstStrip, int endStrip) {
-        Strip strip(samples, Box(variance / 3), outside, rows);
-        for (int index = firstStrip; index < endStrip; ++index) {
-            for (int row = 0; row < samples.height(); row += rows)
-                strip.blur(transposed, bits, index * columns, row, std::min(rows, samples.height() - row));
+/// Lines of samples that run either way through two planes. Steps count samples.
+struct BoxBlur::Lines {
+    const Sample *in;
+    Sample *out;
+    qsizetype inAlong, inAcross;
+    qsizetype outAlong, outAcross;
+    int length, count, channels;
+};
+
+/// A few lines side by side, interleaved: some places are read with their surroundings, blurred and written.
+class BoxBlur::Strip {
+public:
+    Strip(const BoxBlur &blur, const Lines &lines, int maxPlaces) :
+        m_blur(blur),
+        m_lines(lines),
+        m_margin(3 * blur.reach()),
+        m_samples(std::size_t(maxPlaces + 2 * m_margin) * laneCount),
+        m_from(m_samples.size()),
+        m_to(m_samples.size())
+    {
+    }
+
+    void blur(int line, int count, int firstPlace, int places)
+    {
+        const int end = places + 2 * m_margin;
+        for (int place = 0; place < end; ++place)
+            read(line, count, firstPlace - m_margin + place, m_samples.data() + place * laneCount);
+        toNumbers(m_samples.data(), end * laneCount, m_from.data());
+        for (int reach = m_blur.reach(); reach <= m_margin; reach += m_blur.reach(), m_from.swap(m_to))
+            blurLanes(m_from.data(), m_to.data(), reach, end - reach, m_blur.m_radius, m_blur.m_edge, m_blur.m_scale);
+        toSamples(m_from.data() + m_margin * laneCount, places * laneCount, m_samples.data());
+        for (int place = 0; place < places; ++place)
+            write(line, count, firstPlace + place, m_samples.data() + place * laneCount);
+    }
+
+private:
+    void read(int line, int count, int place, Sample *samples) const
+    {
+        const int inside = std::clamp(place, 0, m_lines.length - 1);
+        if (place != inside && m_blur.m_outside == Outside::Nothing) {
+            std::fill_n(samples, laneCount, Sample(0));
+            return;
         }
-    });
-    return transposed;
+        const Sample *first = m_lines.in + inside * m_lines.inAlong + line * m_lines.inAcross;
+        move(first, m_lines.inAcross, samples, m_lines.channels, count);
+    }
+
+    void write(int line, int count, int place, const Sample *samples) const
+    {
+        Sample *first = m_lines.out + place * m_lines.outAlong + line * m_lines.outAcross;
+        move(samples, m_lines.channels, first, m_lines.outAcross, count);
+    }
+
+    /// Copies `count` pixels that lie so many samples apart there and here.
+    void move(const Sample *from, qsizetype fromStep, Sample *to, qsizetype toStep, int count) const
+    {
+        const int channels = m_lines.channels;
+        if (fromStep == toStep && count * channels == laneCount) {
+            std::memcpy(to, from, laneCount * sizeof(Sample));
+            return;
+        }
+        for (; count > 0; --count, from += fromStep, to += toStep) {
+            if (channels == 4)
+                std::memcpy(to, from, 4 * sizeof(Sample));
+            else
+                *to = *from;
+        }
+    }
+
+    const BoxBlur &m_blur;
+    const Lines &m_lines;
+    int m_margin;
+    std::vector<Sample> m_samples;
+    std::vector<float> m_from, m_to;
+};
+
+BoxBlur::BoxBlur(double variance, Outside outside) : m_outside(outside)
+{
+    const double each = variance / 3;
+    m_radius = static_cast<int>((std::sqrt(1 + 12 * each) - 1) / 2);
+    const double inner = m_radius * (m_radius + 1.0) / 3, next = (m_radius + 1.0) * (m_radius + 1.0);
+    const double width = 2 * m_radius + 1, edge = width * (each - inner) / (2 * (next - each));
+    m_edge = static_cast<float>(edge);
+    m_scale = static_cast<float>(1 / (width + 2 * edge));
 }
 
-} // namespace tessaly::BoxBlur
+void BoxBlur::blurLines(const Lines &lines) const
+{
+    // So many places of a strip at a time: its two copies then stay within the processor's second cache.
+    constexpr int maxPlaces = 512;
+    const int places = std::min(maxPlaces, lines.length), width = laneCount / lines.channels;
+    Strip strip(*this, lines, places);
+    for (int line = 0; line < lines.count; line += width) {
+        for (int place = 0; place < lines.length; place += places)
+            strip.blur(line, std::min(width, lines.count - line), place, std::min(places, lines.length - place));
+    }
+}
+
+void BoxBlur::blurColumns(const SamplePlane &in, SamplePlane &out, int first, int end) const
+{
+    const int channels = in.channels();
+    const qsizetype offset = qsizetype(first) * channels;
+    blurLines({ in.row(0) + offset, out.row(0) + offset, in.rowStep(), channels, out.rowStep(), channels, in.height(),
+        end - first, channels });
+}
+
+void BoxBlur::blurRows(const SamplePlane &in, int first, SamplePlane &out) const
+{
+    const int channels = in.channels();
+    blurLines({ in.row(first), out.row(0), channels, in.rowStep(), channels, out.rowStep(), in.width(), out.height(),
+        channels });
+}
+
+} // namespace tessaly

@@ -98,7 +98,7 @@ QImage gaussianBlur(const QImage &image, double pixelRadius)
 
 QImage rectangleShadow(QSize pixelSize, const QRectF &pixelRect, double pixelRadius)
 {
-    return RectangleShadow::coverage(pixelSize, pixelRect, pixelRadius, threadsFor(pixelSize));
+    return RectangleShadow::coverage(pixelSize, pixelRect, pixelRadius);
 }
 
 QImage shapedShadow(const QImage &coverage, double pixelRadius)
