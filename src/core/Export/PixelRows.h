@@ -14,10 +14,11 @@ enum class PixelLayout { Alpha = 1, Rgb = 3, Rgba = 4 };
 bool isOpaque(const QImage &image);
 
 /// The rows of a picture as PNG stores them: a byte that names a filter, and 8-bit samples less what the filter
-/// foresees from the pixels to the left and above. Alpha is not premultiplied in them.
+/// foresees from the pixels to the left and above. Rgba is not premultiplied in them; Rgb is whatever the picture
+/// holds.
 class PixelRows {
 public:
-    /// `image` is in one of RasterImage's two formats.
+    /// `image` is in one of RasterImage's two formats, or Format_ARGB32 for its Rgb alone.
     PixelRows(QImage image, PixelLayout layout);
 
     int rowCount() const { return m_image.height(); }
@@ -28,8 +29,10 @@ public:
     /// together, so the same split always gives the same bytes.
     void write(int first, int end, uint8_t *target) const;
 
-private:
+    /// The samples of one row as they are, bytesPerRow() − 1 of them.
     void readSamples(int row, uint8_t *samples) const;
+
+private:
     bool isLikeRowAbove(int row) const;
     bool isFlat(int first, int end) const;
 
