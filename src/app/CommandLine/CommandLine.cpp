@@ -3,9 +3,8 @@
 
 #include "app/CommandLine/CommandContext.h"
 #include "app/CommandLine/CommandOptions.h"
+#include "app/CommandLine/QuietLibraries.h"
 #include "app/CommandLine/Text.h"
-
-#include <QLoggingCategory>
 
 namespace tessaly {
 
@@ -39,8 +38,7 @@ ExitStatus run(int argc, char **argv, CommandContext &context)
 
 int runCommandLine(int argc, char **argv, const CommandEnvironment &environment)
 {
-    // The libraries' own remarks would stand beside our sentences; QT_LOGGING_RULES brings them back.
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false\n*.warning=false"));
+    const QuietLibraries quiet;
     CommandContext context(environment);
     return static_cast<int>(run(argc, argv, context));
 }

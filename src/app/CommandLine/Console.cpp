@@ -4,7 +4,6 @@
 #include "app/CommandLine/ByteStream.h"
 #include "app/CommandLine/Text.h"
 
-#include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -42,8 +41,7 @@ int terminalColumns()
 void writeToError(const QByteArray &bytes)
 {
     // Nothing can be said about a standard error that takes nothing.
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
-    std::fflush(stderr);
+    static_cast<void>(ByteStream::writeAll(STDERR_FILENO, bytes));
 }
 
 } // namespace

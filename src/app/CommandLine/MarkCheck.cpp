@@ -17,7 +17,7 @@ struct Verdict {
 Verdict verdict(const Annotation &mark, const ImageReadOptions &options)
 {
     if (mark.kind == AnnotationKind::ImageOverlay && mark.imageData) {
-        const Outcome picture = checkImage(*mark.imageData, QStringLiteral("imageData"), options);
+        const auto picture = readImage(*mark.imageData, QStringLiteral("imageData"), options);
         if (!picture)
             return { picture.failure().message, false };
     }
@@ -86,7 +86,7 @@ std::optional<QString> problem(const Watermark &watermark, const ImageReadOption
 {
     if (watermark.kind != WatermarkKind::Image || !watermark.imageData)
         return std::nullopt;
-    const Outcome logo = checkImage(*watermark.imageData, QStringLiteral("The watermark's imageData"), options);
+    const auto logo = readImage(*watermark.imageData, QStringLiteral("The watermark's imageData"), options);
     return logo ? std::nullopt : std::optional(logo.failure().message);
 }
 
