@@ -168,16 +168,45 @@ PreparedCanvas::PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid 
     const Preparation preparation(*this, canvas, std::move(marks), threads);
 }
 
-void PreparedCanvas::paint(const PaintTarget &target) const
+PreparedCanvas::PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, QSize pixelSize, int threads) :
+    PreparedCanvas(canvas, grid, threads)
 {
-    target.painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QRect pixels(QPoint(), pixelSize);
+    const std::vector<PreparedMark *> marks = allMarks();
+    qint64 budget = maxPicturePixels;
+    for (PreparedMark *mark : marks)
+        mark->fitPictures(grid, pixels, budget);
+    Parallel::forEach(int(marks.size()), threads, [&](int index) { marks[size_t(index)]->fitShapes(grid, pixels); });
+}
+
+std::vector<PreparedMark *> PreparedCanvas::allMarks()
+{
+    std::vector<PreparedMark *> marks { &m_spotlights };
+    for (PreparedMark &mark : m_marks)
+        marks.push_back(&mark);
+    return marks;
+}
+
+void PreparedCanvas::paint(QImage &image, const QRect &clip) const
+{
+    const PixelTarget target { image, clip, m_grid };
     const auto paintOne = [&](const PreparedMark &mark) {
-        if (!mark.steps.empty() && m_grid.touchedPixels(mark.bounds).adjusted(-1, -1, 1, 1).intersects(target.clip))
+        if (!mark.steps.empty() && m_grid.touchedPixels(mark.bounds).adjusted(-1, -1, 1, 1).intersects(clip))
             tessaly::paint(mark, target);
     };
     paintOne(m_spotlights);
     for (const PreparedMark &mark : m_marks)
         paintOne(mark);
+}
+
+void PreparedCanvas::paint(QPainter &painter) const
+{
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    tessaly::paint(m_spotlights, painter);
+    for (const PreparedMark &mark : m_marks)
+        tessaly::paint(mark, painter);
+    painter.restore();
 }
 
 } // namespace tessaly
