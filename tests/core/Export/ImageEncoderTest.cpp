@@ -101,7 +101,7 @@ private Q_SLOTS:
     void bytesDoNotDependOnThreads()
     {
         for (const Transparency transparency : { Transparency::None, Transparency::Soft }) {
-            const RasterImage image = RasterImage::fromPixels(test::samplePicture({ 1203, 1501 }, transparency));
+            const RasterImage image = RasterImage::fromPixels(test::samplePicture({ 903, 801 }, transparency));
             for (const auto &row : enumNames<ExportFormat>) {
                 const auto alone = encodeImage(image, row.value, { .threads = 1 });
                 const auto together = encodeImage(image, row.value, { .threads = 5 });
