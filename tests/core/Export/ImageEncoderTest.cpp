@@ -156,6 +156,15 @@ private Q_SLOTS:
         QVERIFY(refused.failure().message.contains(QString::number(std::max(largest.width(), largest.height()))));
     }
 
+    void opaquePictureCostsNoAlpha()
+    {
+        const QImage pixels = test::samplePicture({ 90, 70 }, Transparency::None);
+        const RasterImage plain = RasterImage::fromPixels(pixels);
+        const RasterImage withAlpha { pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied), plain.pointSize };
+        for (const auto &row : enumNames<ExportFormat>)
+            QVERIFY2(*encodeImage(withAlpha, row.value, {}) == *encodeImage(plain, row.value, {}), row.raw.data());
+    }
+
     void transparencyLiesOnWhite()
     {
         QImage pixels(3, 1, QImage::Format_ARGB32_Premultiplied);
