@@ -3,6 +3,7 @@
 #include "core/Export/ExportFormat.h"
 #include "core/Export/JpegFactor.h"
 #include "core/Export/WebPEncoder.h"
+#include "core/Preferences/Settings.h"
 
 #include <QLocale>
 #include <QTemporaryDir>
@@ -131,6 +132,29 @@ private Q_SLOTS:
         for (const auto &row : enumNames<ExportFormat>)
             texts += label(row.value) + u'.' + extension(row.value) + QString(isLossy(row.value) ? 1 : 0, u'~');
         QCOMPARE(texts.join(u' '), QStringLiteral("PNG.png JPEG.jpg~ WebP.webp~ PDF.pdf TIFF.tiff GIF.gif BMP.bmp"));
+    }
+
+    void qualityIsStoredPerLossyFormat()
+    {
+        const QTemporaryDir folder;
+        Settings settings(folder.filePath(QStringLiteral("settings.json")));
+        QCOMPARE(storedQuality(ExportFormat::Jpeg, settings), 0.9);
+        QVERIFY(storeQuality(ExportFormat::Jpeg, 0.45, settings) && storeQuality(ExportFormat::Webp, 1, settings));
+        QVERIFY(storeQuality(ExportFormat::Png, 0.2, settings));
+        QCOMPARE(storedQuality(ExportFormat::Jpeg, settings), 0.45);
+        QCOMPARE(storedQuality(ExportFormat::Webp, settings), 1.0);
+        QCOMPARE(storedQuality(ExportFormat::Png, settings), 1.0);
+    }
+
+    void unknownStoredFormatIsPng()
+    {
+        const QTemporaryDir folder;
+        Settings settings(folder.filePath(QStringLiteral("settings.json")));
+        QCOMPARE(storedFormat(settings), ExportFormat::Png);
+        QVERIFY(settings.set(SettingKeys::exportFormat, QStringLiteral("gif")));
+        QCOMPARE(storedFormat(settings), ExportFormat::Gif);
+        QVERIFY(settings.set(SettingKeys::exportFormat, QStringLiteral("heic")));
+        QCOMPARE(storedFormat(settings), ExportFormat::Png);
     }
 
     void draggedFileIsNamedAfterTheMoment()

@@ -24,13 +24,6 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     return done ? process.readAllStandardOutput() : QByteArray();
 }
 
-/// Straight RGBA, row by row.
-QByteArray rawPixels(const QImage &image)
-{
-    const QImage straight = image.convertToFormat(QImage::Format_RGBA8888);
-    return QByteArray(reinterpret_cast<const char *>(straight.constBits()), straight.sizeInBytes());
-}
-
 } // namespace
 
 /// What others make of our files.
@@ -76,9 +69,12 @@ private Q_SLOTS:
         const QString path = written(image, format, { .quality = 1 });
         const QByteArray seen = outputOf(QStringLiteral("convert"),
             { path, QStringLiteral("-depth"), QStringLiteral("8"), QStringLiteral("rgba:-") });
-        const QByteArray expected = rawPixels(format == ExportFormat::Bmp ? opaque(image).pixels : pixels);
-        QCOMPARE(seen.size(), expected.size());
-        QVERIFY(seen == expected);
+        const QImage expected = format == ExportFormat::Bmp ? opaque(image).pixels : pixels;
+        QCOMPARE(seen.size(), expected.sizeInBytes());
+        const auto *samples = reinterpret_cast<const uchar *>(seen.constData());
+        QCOMPARE(QImage(samples, expected.width(), expected.height(), QImage::Format_RGBA8888)
+                     .convertToFormat(expected.format()),
+            expected);
     }
 
     void everyReaderKnowsTheFile_data()
@@ -91,7 +87,7 @@ private Q_SLOTS:
         const QStringList verbose { QStringLiteral("-verbose") };
         QTest::newRow("PNG") << ExportFormat::Png << identify << verbose
                              << QStringList { "64x30", "Resolution: 56.69x56.69", "Units: PixelsPerCentimeter",
-                                    "TrueColorAlpha", "Rendering intent: Perceptual" };
+                                    "png:IHDR.color-type-orig: 6", "Rendering intent: Perceptual" };
         QTest::newRow("JPEG") << ExportFormat::Jpeg << identify << verbose
                               << QStringList { "64x30", "Resolution: 144x144", "Units: PixelsPerInch", "Quality: 69",
                                      "sampling-factor: 1x1,1x1,1x1" };
@@ -132,18 +128,13 @@ private Q_SLOTS:
         QVERIFY(outputOf(QStringLiteral("pdfinfo"), { path }).contains("400.571 x 190.286 pts"));
         outputOf(
             QStringLiteral("pdfimages"), { QStringLiteral("-png"), path, m_folder.filePath(QStringLiteral("part")) });
-        const QImage straight = pixels.convertToFormat(QImage::Format_ARGB32);
         const QImage colors(m_folder.filePath(QStringLiteral("part-000.png")));
         const QImage mask(m_folder.filePath(QStringLiteral("part-001.png")));
         QCOMPARE(colors.size(), pixels.size());
         QCOMPARE(mask.size(), pixels.size());
-        for (int y = 0; y < pixels.height(); ++y) {
-            for (int x = 0; x < pixels.width(); ++x) {
-                const QRgb seen = (colors.pixel(x, y) & 0xffffffu) | QRgb(qRed(mask.pixel(x, y))) << 24;
-                if (seen != straight.pixel(x, y))
-                    QCOMPARE(QString::number(seen, 16), QString::number(straight.pixel(x, y), 16));
-            }
-        }
+        QImage seen = colors.convertToFormat(QImage::Format_ARGB32);
+        seen.setAlphaChannel(mask);
+        QCOMPARE(seen.convertToFormat(pixels.format()), pixels);
     }
 };
 

@@ -101,7 +101,7 @@ private Q_SLOTS:
     void bytesDoNotDependOnThreads()
     {
         for (const Transparency transparency : { Transparency::None, Transparency::Soft }) {
-            const RasterImage image = RasterImage::fromPixels(test::samplePicture({ 1203, 1501 }, transparency));
+            const RasterImage image = RasterImage::fromPixels(test::samplePicture({ 903, 801 }, transparency));
             for (const auto &row : enumNames<ExportFormat>) {
                 const auto alone = encodeImage(image, row.value, { .threads = 1 });
                 const auto together = encodeImage(image, row.value, { .threads = 5 });
@@ -154,6 +154,15 @@ private Q_SLOTS:
         QVERIFY(!refused);
         QVERIFY(refused.failure().message.contains(label(format)));
         QVERIFY(refused.failure().message.contains(QString::number(std::max(largest.width(), largest.height()))));
+    }
+
+    void opaquePictureCostsNoAlpha()
+    {
+        const QImage pixels = test::samplePicture({ 90, 70 }, Transparency::None);
+        const RasterImage plain = RasterImage::fromPixels(pixels);
+        const RasterImage withAlpha { pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied), plain.pointSize };
+        for (const auto &row : enumNames<ExportFormat>)
+            QVERIFY2(*encodeImage(withAlpha, row.value, {}) == *encodeImage(plain, row.value, {}), row.raw.data());
     }
 
     void transparencyLiesOnWhite()

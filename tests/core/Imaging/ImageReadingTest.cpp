@@ -110,6 +110,7 @@ private Q_SLOTS:
         QTest::newRow("PNG, larger than its data") << pngClaiming(5000, 5000) << incomplete;
         QByteArray flipped = saved(gradient(), "png");
         flipped[flipped.size() / 2] = char(flipped[flipped.size() / 2] ^ 0x10);
+        QTest::newRow("PNG, all but its end") << saved(gradient(), "png").chopped(12) << incomplete;
         QTest::newRow("PNG, one bit wrong") << flipped << incomplete;
         for (const char *format : { "png", "jpg", "webp", "tiff", "bmp", "ppm" }) {
             const QByteArray whole = saved(gradient(), format);
@@ -128,7 +129,8 @@ private Q_SLOTS:
         QFETCH(QString, reason);
         const auto result = readImage(bytes, QStringLiteral("holiday.png"));
         QVERIFY(!result);
-        QVERIFY2(result.failure().message.startsWith(QStringLiteral("holiday.png ")) && result.failure().message.contains(reason),
+        QVERIFY2(result.failure().message.startsWith(QStringLiteral("holiday.png "))
+                && result.failure().message.contains(reason),
             qPrintable(result.failure().message));
     }
 
@@ -254,6 +256,8 @@ private Q_SLOTS:
         QCOMPARE(plain->pixels.format(), kept);
         QCOMPARE(plain->pixels.pixelColor(30, 20).rgb(), before.rgb());
 
+        if (image.pixelFormat().colorModel() == QPixelFormat::Grayscale)
+            return; // a PNG of grey cannot carry a profile of three channels
         image.setColorSpace(QColorSpace::SRgbLinear);
         const auto profiled = readImage(saved(image, "png"), QStringLiteral("x"));
         QVERIFY(profiled);
