@@ -22,13 +22,7 @@ void AnnotationsCanvas::draw(QPainter &painter) const
     const PixelGrid grid { painter.deviceTransform() };
     if (!grid.toPixels.isInvertible())
         return;
-    const PreparedCanvas prepared(*this, grid, Parallel::defaultThreadCount());
-    const QPaintDevice *device = painter.device();
-    const double deviceScale = device ? device->devicePixelRatioF() : 1;
-    const QRectF all(0, 0, device ? device->width() * deviceScale : 0, device ? device->height() * deviceScale : 0);
-    painter.save();
-    prepared.paint({ painter, nullptr, outwardRect(all) });
-    painter.restore();
+    PreparedCanvas(*this, grid, QSize(), Parallel::defaultThreadCount()).paint(painter);
 }
 
 namespace {
@@ -75,23 +69,18 @@ QImage AnnotationsCanvas::drawnOver(const RasterImage &base, QSize pixelSize, do
         base.pointSize };
     AnnotationsCanvas sampling = *this;
     sampling.source = source ? source : pixels;
-    const PreparedCanvas prepared(sampling, grid, threads);
+    const PreparedCanvas prepared(sampling, grid, pixelSize, threads);
     const BaseLayer below(pixels, prepared.sample(), pixelSize);
     QImage result = PixelMemory::allocate(pixelSize, pixels.pixels.format());
     if (below.isEmpty() || result.isNull())
         return {};
-    constexpr int rowsInBand = 128; // a band of a wide screen stays in the processor's cache
+    constexpr int rowsInBand = 32; // a band of a wide screen stays in the processor's cache
     uchar *bits = result.bits();
     Parallel::inBands(
         result.height(), (result.height() + rowsInBand - 1) / rowsInBand, threads, [&](int first, int end) {
-            // All bands paint with the same coordinates and differ in their clip alone, hence the same bytes.
             QImage view = sharedView(result, bits);
             below.copyRows(view, first, end);
-            const QRect clip(0, first, view.width(), end - first);
-            QPainter painter(&view);
-            painter.setClipRect(clip);
-            painter.setTransform(grid.toPixels);
-            prepared.paint({ painter, &view, clip });
+            prepared.paint(view, QRect(0, first, view.width(), end - first));
         });
     return result;
 }

@@ -31,8 +31,15 @@ FrameBackground::FrameBackground(const FrameStyle &frame, QSizeF canvasSize, boo
     m_opaque = m_checkerboard || m_brush.isOpaque();
 }
 
-void FrameBackground::paint(QPainter &painter) const
+void FrameBackground::paint(QImage &image, const QRect &rows, double scale) const
 {
+    QPainter painter(&image);
+    painter.setClipRect(rows);
+    if (!m_opaque) {
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(rows, Qt::transparent);
+    }
+    painter.scale(scale, scale);
     const QRectF canvas(QPointF(), m_canvasSize);
     if (!m_checkerboard) {
         if (m_brush.style() != Qt::NoBrush)

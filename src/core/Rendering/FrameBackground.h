@@ -4,9 +4,8 @@
 #include "core/Frame/FrameStyle.h"
 
 #include <QBrush>
+#include <QImage>
 #include <QSizeF>
-
-class QPainter;
 
 namespace tessaly {
 
@@ -19,8 +18,8 @@ public:
     /// Whether it leaves no pixel of the canvas transparent.
     bool isOpaque() const { return m_opaque; }
 
-    /// Fills the painter's clip; its units are points.
-    void paint(QPainter &painter) const;
+    /// Replaces the rows of a canvas of `scale` pixels per point.
+    void paint(QImage &canvas, const QRect &rows, double scale) const;
 
 private:
     QSizeF m_canvasSize;

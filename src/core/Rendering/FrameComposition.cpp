@@ -7,9 +7,8 @@
 #include "core/Rendering/FrameBackground.h"
 #include "core/Rendering/FrameShadow.h"
 #include "core/Rendering/PictureCaches.h"
+#include "core/Rendering/PixelBlend.h"
 #include "core/Rendering/WatermarkPainter.h"
-
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -27,20 +26,16 @@ QSize pixelsOf(QSizeF points, double scale)
     return { static_cast<int>(width), static_cast<int>(height) };
 }
 
-/// One painter a band over the same pixels, so that neither bands nor threads change a byte.
+/// Calls `paint(view, rows)` for every band: an object of its own over the same pixels, and the rows to paint.
 template <class Paint>
-void paintInBands(QImage &image, int threads, Paint paint)
+void inBands(QImage &image, int threads, Paint paint)
 {
     constexpr int rowsInBand = 128;
     uchar *bits = image.bits();
     const int bands = (image.height() + rowsInBand - 1) / rowsInBand;
     Parallel::inBands(image.height(), bands, threads, [&](int first, int end) {
         QImage view(bits, image.width(), image.height(), image.bytesPerLine(), image.format());
-        const QRect band(0, first, image.width(), end - first);
-        QPainter painter(&view);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        painter.setClipRect(band);
-        paint(PaintTarget { painter, &view, band });
+        paint(view, QRect(0, first, image.width(), end - first));
     });
 }
 
@@ -61,17 +56,11 @@ QImage framed(
         size, background.isOpaque() ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     if (canvas.isNull())
         return {};
-    paintInBands(canvas, threads, [&](const PaintTarget &target) {
-        if (!background.isOpaque()) {
-            for (int y = target.clip.top(); y <= target.clip.bottom(); ++y)
-                std::fill_n(reinterpret_cast<QRgb *>(target.pixels->scanLine(y)), size.width(), 0u);
-        }
-        target.painter.scale(scale, scale);
-        background.paint(target.painter);
-        soft.blend(*target.pixels, target.clip.top(), target.clip.bottom() + 1, shadowOrigin, shadow.opacity);
-        target.painter.resetTransform();
-        target.painter.translate(origin);
-        target.painter.fillPath(shape, QBrush(content));
+    const CoverageMask rounded(shape.translated(origin), canvas.rect());
+    inBands(canvas, threads, [&](QImage &view, const QRect &rows) {
+        background.paint(view, rows, scale);
+        soft.blend(view, rows, shadowOrigin, shadow.opacity);
+        PixelBlend::fill(view, rows, rounded, content, origin, PixelBlend::Mode::Over);
     });
     return canvas;
 }
@@ -88,13 +77,14 @@ QImage FrameComposition::rendered(double scale, int threads) const
         picture = framed(*this, *frame, picture, scale, threads);
     if (!watermark || picture.isNull())
         return picture;
-    const PreparedMark mark = prepareWatermark(*watermark, layout.canvasSize, scale);
+    PreparedMark mark = prepareWatermark(*watermark, layout.canvasSize, scale);
     if (mark.steps.empty())
         return picture;
-    paintInBands(picture, threads, [&](const PaintTarget &target) {
-        target.painter.scale(scale, scale);
-        paint(mark, target);
-    });
+    const PixelGrid grid = PixelGrid::scaledBy(scale);
+    qint64 budget = maxPicturePixels;
+    mark.fitPictures(grid, picture.rect(), budget);
+    mark.fitShapes(grid, picture.rect());
+    inBands(picture, threads, [&](QImage &view, const QRect &rows) { paint(mark, { view, rows, grid }); });
     return picture;
 }
 

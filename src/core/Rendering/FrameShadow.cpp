@@ -86,12 +86,11 @@ int FrameShadow::sourceRow(int y) const
     return y <= m_middle.y() ? y : std::max(y - repeated, m_middle.y());
 }
 
-void FrameShadow::blend(QImage &target, int firstRow, int endRow, QPoint origin, double opacity) const
+void FrameShadow::blend(QImage &target, const QRect &rows, QPoint origin, double opacity) const
 {
     if (m_coverage.isNull())
         return;
-    const QRect area = QRect(origin - QPoint(m_spread, m_spread), m_size)
-                           .intersected(QRect(0, firstRow, target.width(), endRow - firstRow));
+    const QRect area = QRect(origin - QPoint(m_spread, m_spread), m_size).intersected(rows);
     const unsigned strength = static_cast<unsigned>(std::lround(opacity * 256));
     const bool translucent = target.hasAlphaChannel();
     for (int y = area.top(); y <= area.bottom(); ++y) {

@@ -14,7 +14,7 @@ public:
     FrameShadow(const QImage &content, const QPainterPath &shape, double cornerRadius, double radius);
 
     /// Darkens rows of `target` under the shadow of a picture whose top-left lies at `origin`.
-    void blend(QImage &target, int firstRow, int endRow, QPoint origin, double opacity) const;
+    void blend(QImage &target, const QRect &rows, QPoint origin, double opacity) const;
 
 private:
     int sourceColumn(int x) const;

@@ -34,15 +34,16 @@ QImage LoupePainter::magnifierContents(
     if (contents.isNull())
         return {};
     contents.fill(opaque ? Qt::black : Qt::transparent);
-    QPainter painter(&contents);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setTransform(m_magnified * m_grid.toPixels * QTransform::fromTranslate(-m_pixels.x(), -m_pixels.y()));
+    const PixelGrid magnified { m_magnified * m_grid.toPixels
+        * QTransform::fromTranslate(-m_pixels.x(), -m_pixels.y()) };
     if (!sample.isEmpty()) {
         const double margin = 2 / sample.pixelsPerPoint(); // what interpolation looks at beyond the edge
         const QRect pixels = sample.touchedPixels(m_seen.adjusted(-margin, -margin, margin, margin));
-        painter.drawImage(sample.pointsOf(pixels), sample.region(pixels));
+        QPainter painter(&contents);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(magnified.toPixels.mapRect(sample.pointsOf(pixels)), sample.region(pixels));
     }
-    const PaintTarget target { painter, &contents, contents.rect() };
+    const PixelTarget target { contents, contents.rect(), magnified, false };
     for (const PreparedMark *mark : below)
         paint(*mark, target);
     return contents;
@@ -65,8 +66,7 @@ void LoupePainter::prepare(const QImage &contents, const QRectF &paintable, Prep
         return;
     const QPainterPath outline = shape();
     if (!contents.isNull()) {
-        out.add(LensStep {
-            Strokes::within(outline, paintable), contents, m_grid.toPixels.inverted().mapRect(QRectF(m_pixels)) });
+        out.add(LensStep { Strokes::within(outline, paintable), contents, m_pixels.topLeft() });
     }
     // White with a dark hairline on either side shows on anything.
     constexpr double hairline = 0.75; // points

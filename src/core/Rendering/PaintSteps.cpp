@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/PaintSteps.h"
 
-#include "core/Rendering/MultiplyBlend.h"
-#include "core/Rendering/PixelGrid.h"
+#include "core/Rendering/PixelBlend.h"
 
 #include <QPainter>
-
-#include <cmath>
 
 namespace tessaly {
 
@@ -22,6 +19,8 @@ void PreparedMark::add(PictureStep step)
 {
     if (step.picture.isNull() || step.target.isEmpty() || step.opacity <= 0)
         return;
+    if (step.picture.format() != QImage::Format_RGB32)
+        step.picture.convertTo(QImage::Format_ARGB32_Premultiplied);
     touch(step.placement.mapRect(step.target));
     steps.emplace_back(std::move(step));
 }
@@ -50,135 +49,174 @@ void PreparedMark::add(LensStep step)
 
 namespace {
 
-/// The painter with pixels as its units, until the end of the scope.
-class InPixels {
-public:
-    explicit InPixels(QPainter &painter) : m_painter(painter)
-    {
-        m_painter.save();
-        const QTransform toPixels = m_painter.deviceTransform();
-        if (toPixels == m_painter.worldTransform())
-            m_painter.resetTransform(); // the inverse would leave a scale of almost 1
-        else
-            m_painter.setTransform(toPixels.inverted(), true);
-    }
-    ~InPixels() { m_painter.restore(); }
-    Q_DISABLE_COPY_MOVE(InPixels)
-
-private:
-    QPainter &m_painter;
-};
-
-PixelGrid gridOf(const QPainter &painter) { return { painter.deviceTransform() }; }
-
-/// The pixel at which the picture can be copied as it is, where its pixels and those below fall together.
-std::optional<QPoint> copyPosition(const QRectF &pixelTarget, QSize pictureSize)
+QRect clipOn(const PixelGrid &grid, const std::optional<QRectF> &points, const QRect &pixels)
 {
-    constexpr double noise = 1e-6;
-    const QRect whole = pixelTarget.toRect();
-    const auto same = [](double a, double b) { return std::abs(a - b) < noise; };
-    const bool fits = whole.size() == pictureSize && same(pixelTarget.x(), whole.x())
-        && same(pixelTarget.y(), whole.y()) && same(pixelTarget.width(), whole.width())
-        && same(pixelTarget.height(), whole.height());
-    return fits ? std::optional(whole.topLeft()) : std::nullopt;
+    return points ? grid.touchedPixels(*points).intersected(pixels) : pixels;
 }
 
-} // namespace
+QRectF targetOn(const PixelGrid &grid, const PictureStep &step)
+{
+    const QRectF pixels = grid.toPixels.mapRect(step.target);
+    return step.wholePixels ? QRectF(outwardRect(pixels)) : pixels;
+}
 
-/// Paints each kind of step.
-class StepPainter {
-public:
-    explicit StepPainter(const PaintTarget &target) : m_target(target), m_painter(target.painter) { }
+void drawWith(QPainter &painter, const PixelGrid &grid, const PictureStep &step)
+{
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setOpacity(step.opacity);
+    if (!step.placement.isIdentity()) {
+        painter.setTransform(step.placement * grid.toPixels, true);
+        painter.drawImage(step.target, step.picture);
+        return;
+    }
+    const QRectF target = targetOn(grid, step);
+    const QRect whole = target.toRect();
+    const bool pixelByPixel = whole.size() == step.picture.size() && whole == outwardRect(target);
+    if (pixelByPixel)
+        painter.drawImage(whole.topLeft(), step.picture);
+    else
+        painter.drawImage(target, step.picture);
+}
+
+/// The step's pixels on the grid, with their place; the picture itself where its pixels are those of the grid.
+void fitPicture(PictureStep &step, const PixelGrid &grid, const QRect &pixels, qint64 &budget)
+{
+    const QRectF target = targetOn(grid, step);
+    const QRect place = outwardRect((step.placement * grid.toPixels).mapRect(step.target)).intersected(pixels);
+    const bool pixelByPixel = step.placement.isIdentity() && step.opacity == 1
+        && outwardRect(target).size() == step.picture.size() && target.toRect() == outwardRect(target);
+    if (pixelByPixel) {
+        step.fittedPicture = step.picture;
+        step.fittedPosition = outwardRect(target).topLeft();
+        return;
+    }
+    const qint64 size = qint64(place.width()) * place.height();
+    if (place.isEmpty() || size > budget)
+        return;
+    budget -= size;
+    step.fittedPicture = QImage(place.size(), QImage::Format_ARGB32_Premultiplied);
+    step.fittedPicture.fill(Qt::transparent);
+    step.fittedPosition = place.topLeft();
+    QPainter painter(&step.fittedPicture);
+    painter.translate(-place.topLeft());
+    drawWith(painter, grid, step);
+}
+
+/// Paints each kind of step into memory.
+struct InMemory {
+    const PixelTarget &target;
 
     void operator()(const FillStep &step) const
     {
-        if (!step.clip) {
-            m_painter.fillPath(step.outline, step.color);
-            return;
-        }
-        m_painter.save();
-        m_painter.setClipRect(gridOf(m_painter).grownToPixels(*step.clip), Qt::IntersectClip);
-        m_painter.fillPath(step.outline, step.color);
-        m_painter.restore();
+        const QRect clip = clipOn(target.grid, step.clip, target.clip);
+        if (target.fitted)
+            PixelBlend::fill(target.pixels, clip, step.fittedMask, step.color);
+        else
+            PixelBlend::fill(
+                target.pixels, clip, CoverageMask(target.grid.toPixels.map(step.outline), clip), step.color);
     }
 
     void operator()(const PictureStep &step) const
     {
-        if (!step.placement.isIdentity() || step.opacity < 1) {
-            m_painter.save();
-            m_painter.setTransform(step.placement, true);
-            m_painter.setOpacity(step.opacity);
-            m_painter.drawImage(step.target, step.picture);
-            m_painter.restore();
+        if (target.fitted && !step.fittedPicture.isNull()) {
+            PixelBlend::draw(target.pixels, target.clip, step.fittedPicture, step.fittedPosition);
             return;
         }
-        const PixelGrid grid = gridOf(m_painter);
-        if (!grid.isUpright()) {
-            m_painter.drawImage(step.target, step.picture);
-            return;
-        }
-        QRectF pixels = grid.toPixels.mapRect(step.target);
-        if (step.wholePixels)
-            pixels = outwardRect(pixels);
-        const InPixels inPixels(m_painter);
-        if (const auto position = copyPosition(pixels, step.picture.size()))
-            m_painter.drawImage(*position, step.picture);
-        else
-            m_painter.drawImage(pixels, step.picture);
+        QPainter painter(&target.pixels);
+        painter.setClipRect(target.clip);
+        drawWith(painter, target.grid, step);
     }
 
     void operator()(const MultiplyStep &step) const
     {
-        const PixelGrid grid = gridOf(m_painter);
-        if (m_target.pixels && grid.isUpright()) {
-            multiply(*m_target.pixels, m_target.clip, grid.toPixels.mapRect(step.area), step.color);
-            return;
-        }
-        m_painter.save();
-        m_painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-        m_painter.fillRect(step.area, step.color);
-        m_painter.restore();
+        PixelBlend::multiply(target.pixels, target.clip, target.grid.toPixels.mapRect(step.area), step.color);
     }
 
     void operator()(const CoverStep &step) const
     {
-        const PixelGrid grid = gridOf(m_painter);
-        if (!grid.isUpright()) {
-            m_painter.fillRect(step.area, step.color);
-            return;
-        }
-        const QRect pixels = grid.touchedPixels(step.area);
-        const InPixels inPixels(m_painter);
-        m_painter.fillRect(pixels, step.color);
+        QPainterPath whole;
+        whole.addRect(target.grid.touchedPixels(step.area).intersected(target.clip));
+        PixelBlend::fill(target.pixels, target.clip, CoverageMask(whole, target.clip), step.color);
     }
 
     void operator()(const LensStep &step) const
     {
-        m_painter.save();
-        const bool replaces = m_target.pixels && m_target.pixels->hasAlphaChannel() && step.picture.hasAlphaChannel();
-        if (replaces) { // what is magnified stands instead of what lies below, also where it is transparent
-            m_painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-            m_painter.fillPath(step.outline, Qt::black);
-            m_painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-        }
-        QBrush brush(step.picture);
-        brush.setTransform(QTransform::fromScale(
-                               step.target.width() / step.picture.width(), step.target.height() / step.picture.height())
-            * QTransform::fromTranslate(step.target.x(), step.target.y()));
-        m_painter.fillPath(step.outline, brush);
-        m_painter.restore();
+        const auto mode = step.picture.hasAlphaChannel() ? PixelBlend::Mode::Instead : PixelBlend::Mode::Over;
+        PixelBlend::fill(target.pixels, target.clip, step.fittedMask, step.picture, step.pixelPosition, mode);
     }
-
-private:
-    const PaintTarget &m_target;
-    QPainter &m_painter;
 };
 
-void paint(const PreparedMark &mark, const PaintTarget &target)
+/// Paints each kind of step with a painter.
+struct WithPainter {
+    QPainter &painter;
+    PixelGrid grid;
+
+    void operator()(const FillStep &step) const
+    {
+        if (step.clip)
+            painter.setClipRect(grid.grownToPixels(*step.clip), Qt::IntersectClip);
+        painter.fillPath(step.outline, step.color);
+    }
+
+    void operator()(const PictureStep &step) const
+    {
+        const bool upright = grid.isUpright() && grid.toPixels.isInvertible();
+        if (upright)
+            painter.setTransform(grid.toPixels.inverted(), true);
+        drawWith(painter, upright ? grid : PixelGrid(), step);
+    }
+
+    void operator()(const MultiplyStep &step) const
+    {
+        painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+        painter.fillRect(step.area, step.color);
+    }
+
+    void operator()(const CoverStep &step) const { painter.fillRect(grid.grownToPixels(step.area), step.color); }
+
+    void operator()(const LensStep &step) const
+    {
+        QBrush brush(step.picture);
+        const double perPixel = 1 / grid.scale();
+        brush.setTransform(QTransform::fromTranslate(step.pixelPosition.x(), step.pixelPosition.y())
+            * (grid.isUpright() ? grid.toPixels.inverted() : QTransform::fromScale(perPixel, perPixel)));
+        painter.fillPath(step.outline, brush);
+    }
+};
+
+} // namespace
+
+void PreparedMark::fitPictures(const PixelGrid &grid, const QRect &pixels, qint64 &budget)
 {
-    const StepPainter painter(target);
+    for (PaintStep &step : steps) {
+        if (auto *picture = std::get_if<PictureStep>(&step))
+            fitPicture(*picture, grid, pixels, budget);
+    }
+}
+
+void PreparedMark::fitShapes(const PixelGrid &grid, const QRect &pixels)
+{
+    for (PaintStep &step : steps) {
+        if (auto *fill = std::get_if<FillStep>(&step))
+            fill->fittedMask = CoverageMask(grid.toPixels.map(fill->outline), clipOn(grid, fill->clip, pixels));
+        else if (auto *lens = std::get_if<LensStep>(&step))
+            lens->fittedMask = CoverageMask(grid.toPixels.map(lens->outline), pixels);
+    }
+}
+
+void paint(const PreparedMark &mark, const PixelTarget &target)
+{
     for (const PaintStep &step : mark.steps)
-        std::visit(painter, step);
+        std::visit(InMemory { target }, step);
+}
+
+void paint(const PreparedMark &mark, QPainter &painter)
+{
+    for (const PaintStep &step : mark.steps) {
+        painter.save();
+        std::visit(WithPainter { painter, { painter.deviceTransform() } }, step);
+        painter.restore();
+    }
 }
 
 } // namespace tessaly

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Rendering/CoverageMask.h"
+#include "core/Rendering/PixelGrid.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPainterPath>
@@ -15,23 +18,26 @@ class QPainter;
 
 namespace tessaly {
 
-/// What one mark comes down to when it is painted. All positions are image points; the painter's transformation
-/// takes them to pixels.
+/// What one mark comes down to when it is painted. All positions are image points. What `fitted…` holds is the same
+/// for the pixels of the grid that the mark was prepared for.
 
 /// A shape in one colour.
 struct FillStep {
     QPainterPath outline; ///< with its own fill rule
     QColor color;
     std::optional<QRectF> clip = {}; ///< grown to whole pixels when painted
+    CoverageMask fittedMask = {};
 };
 
 /// A picture stretched into a rectangle.
 struct PictureStep {
-    QImage picture;
+    QImage picture; ///< Format_RGB32 or Format_ARGB32_Premultiplied
     QRectF target;
     bool wholePixels = false; ///< the target grows to whole pixels, so that nothing shines through at its edge
     QTransform placement = {}; ///< applied to the target
     double opacity = 1;
+    QImage fittedPicture = {};
+    QPoint fittedPosition = {};
 };
 
 /// The marker pen: what lies below is multiplied by the colour.
@@ -46,18 +52,19 @@ struct CoverStep {
     QColor color;
 };
 
-/// A picture seen through a shape.
+/// A picture of the grid's own pixels, seen through a shape.
 struct LensStep {
     QPainterPath outline;
     QImage picture;
-    QRectF target; ///< where the picture lies
+    QPoint pixelPosition; ///< of the picture on the grid
+    CoverageMask fittedMask = {};
 };
 
 using PaintStep = std::variant<FillStep, PictureStep, MultiplyStep, CoverStep, LensStep>;
 
-/// A mark made ready: nothing is laid out, decoded or computed any more when it is painted.
+/// A mark made ready: nothing is laid out, decoded or computed any more when it is painted on its grid.
 struct PreparedMark {
-    QRectF bounds; ///< of everything that it can touch, strokes included
+    QRectF bounds; ///< points; of everything that it can touch, strokes included
     std::vector<PaintStep> steps;
 
     void fill(QPainterPath outline, const QColor &color);
@@ -66,17 +73,27 @@ struct PreparedMark {
     void add(CoverStep step);
     void add(LensStep step);
 
+    /// Computes the `fitted…` of pictures for the part of the grid within `pixels`; they are left to be scaled while
+    /// painting once `budget`, a number of pixels, is spent.
+    void fitPictures(const PixelGrid &grid, const QRect &pixels, qint64 &budget);
+    /// The same of all shapes.
+    void fitShapes(const PixelGrid &grid, const QRect &pixels);
+
 private:
     void touch(const QRectF &area) { bounds = bounds.isNull() ? area : bounds.united(area); }
 };
 
-/// Pixels with a painter on them. The painter's clip must be `clip`, a rectangle in pixels.
-struct PaintTarget {
-    QPainter &painter;
-    QImage *pixels = nullptr; ///< what the painter paints on, when that is known to be a picture in memory
-    QRect clip; ///< pixels
+/// Where a mark is painted in memory.
+struct PixelTarget {
+    QImage &pixels; ///< Format_RGB32 or Format_ARGB32_Premultiplied
+    QRect clip; ///< no other pixel is touched
+    PixelGrid grid;
+    bool fitted = true; ///< the grid is the one that the marks were fitted to
 };
 
-void paint(const PreparedMark &mark, const PaintTarget &target);
+void paint(const PreparedMark &mark, const PixelTarget &target);
+
+/// The same with any painter, whose units are image points; for the screen.
+void paint(const PreparedMark &mark, QPainter &painter);
 
 } // namespace tessaly

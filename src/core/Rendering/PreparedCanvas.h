@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class QPainter;
+
 namespace tessaly {
 
 class AnnotationsCanvas;
@@ -16,11 +18,15 @@ class AnnotationsCanvas;
 /// the loupes show. Painting it changes nothing, so that several threads may paint parts of it at once.
 class PreparedCanvas {
 public:
-    /// Uses up to `threads` threads, and fonts where FontUse says so. `threads` does not change the result.
-    PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, int threads);
+    /// Everything is fitted to the pixels of a picture of `pixelSize` at `grid`; an empty size prepares for a painter
+    /// alone. Uses up to `threads` threads, which do not change the result, and fonts where FontUse says so.
+    PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, QSize pixelSize, int threads);
 
-    /// Paints what touches the target's clip. The painter's transformation is that of the grid.
-    void paint(const PaintTarget &target) const;
+    /// Paints the rows of `image`, of the size that the canvas was prepared for, within `clip`.
+    void paint(QImage &image, const QRect &clip) const;
+
+    /// Paints with a painter whose units are image points.
+    void paint(QPainter &painter) const;
 
     /// The capture with its fully hidden areas painted over.
     const CaptureSample &sample() const { return m_sample; }
