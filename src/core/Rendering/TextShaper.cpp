@@ -105,9 +105,11 @@ const TextShape &TextShaper::shape(const QString &text, const TextFace &face)
     const std::pair key { text, face };
     if (const auto known = m_shapes.constFind(key); known != m_shapes.constEnd())
         return *known;
+    TextShape shape;
+    if (text.trimmed().isEmpty()) // nothing to draw, and perhaps no application that could open a font
+        return *m_shapes.insert(key, shape);
     const QFont font = fontOf(face);
     const QFontMetricsF metrics(font);
-    TextShape shape;
     shape.ascent = metrics.ascent() / layoutSize;
     shape.capHeight = metrics.capHeight() / layoutSize;
     shape.lineHeight = metrics.height() / layoutSize;
