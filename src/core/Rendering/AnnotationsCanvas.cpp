@@ -22,7 +22,7 @@ void AnnotationsCanvas::draw(QPainter &painter) const
     const PixelGrid grid { painter.deviceTransform() };
     if (!grid.toPixels.isInvertible())
         return;
-    PreparedCanvas(*this, grid, Parallel::defaultThreadCount()).paint(painter);
+    PreparedCanvas(*this, grid, QSize(), Parallel::defaultThreadCount()).paint(painter);
 }
 
 namespace {
@@ -74,7 +74,7 @@ QImage AnnotationsCanvas::drawnOver(const RasterImage &base, QSize pixelSize, do
     QImage result = PixelMemory::allocate(pixelSize, pixels.pixels.format());
     if (below.isEmpty() || result.isNull())
         return {};
-    constexpr int rowsInBand = 128; // a band of a wide screen stays in the processor's cache
+    constexpr int rowsInBand = 32; // a band of a wide screen stays in the processor's cache
     uchar *bits = result.bits();
     Parallel::inBands(
         result.height(), (result.height() + rowsInBand - 1) / rowsInBand, threads, [&](int first, int end) {

@@ -171,17 +171,22 @@ CoverageMask::CoverageMask(const QPainterPath &outline, const QRect &clip)
     m_firstRow = reached.top();
     m_rowStarts.reserve(size_t(reached.height()) + 1);
     RowSums sums(reached.width());
-    std::vector<const Edge *> active;
+    std::vector<Edge> active;
     auto next = edges.begin();
     for (int y = 0; y < reached.height(); ++y) {
         for (; next != edges.end() && next->top < y + 1; ++next)
-            active.push_back(&*next);
-        for (const Edge *edge : active) {
-            const double top = std::max(edge->top, double(y)), bottom = std::min(edge->bottom, y + 1.0);
-            const double x = edge->x + (top - edge->top) * edge->slope;
-            sums.add(x, x + (bottom - top) * edge->slope, float(bottom - top) * edge->direction);
+            active.push_back(*next);
+        size_t kept = 0;
+        for (Edge &edge : active) {
+            const double bottom = std::min(edge.bottom, y + 1.0), height = bottom - edge.top;
+            const double x = edge.x + height * edge.slope;
+            sums.add(edge.x, x, float(height) * edge.direction);
+            edge.top = bottom;
+            edge.x = x;
+            if (edge.bottom > bottom)
+                active[kept++] = edge;
         }
-        std::erase_if(active, [y](const Edge *edge) { return edge->bottom <= y + 1; });
+        active.resize(kept);
         sums.flush([&](int x, int length, float sum) {
             const unsigned coverage = length > 0 ? coverageOf(sum, outline.fillRule()) : 0;
             if (coverage == 0)

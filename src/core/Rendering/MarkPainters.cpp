@@ -15,7 +15,7 @@ static constexpr MarkPainterRow painters[] {
     { AnnotationKind::Pen, preparePen, PaintersThread::Any },
     { AnnotationKind::Spotlight, nullptr, PaintersThread::Any },
     { AnnotationKind::Sticker, prepareSticker, PaintersThread::Starting },
-    { AnnotationKind::ImageOverlay, prepareImageOverlay, PaintersThread::Starting },
+    { AnnotationKind::ImageOverlay, prepareImageOverlay, PaintersThread::InOrder },
     { AnnotationKind::Magnifier, nullptr, PaintersThread::Any },
 };
 

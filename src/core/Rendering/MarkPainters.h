@@ -21,15 +21,18 @@ struct MarkContext {
     TextShaper &text;
     OverlayCache &overlays;
     ObscuredCache &obscured;
-    PixelBudget &budget;
+    PixelBudget &glyphBudget;
+    PixelBudget &overlayBudget;
 };
 
 /// Turns one mark, whose numbers are in range, into what is painted.
 using MarkPainter = void (*)(const Annotation &, const MarkContext &, PreparedMark &);
 
-/// A painter with shared things in hand (fonts, decoded pictures) keeps to the thread that started the preparation;
-/// the others run on any.
-enum class PaintersThread { Any, Starting };
+enum class PaintersThread {
+    Any,
+    InOrder, ///< any, but one mark after the other as they are drawn: they share a limit
+    Starting, ///< the one that started the preparation, which owns the fonts
+};
 
 struct MarkPainterRow {
     AnnotationKind kind;

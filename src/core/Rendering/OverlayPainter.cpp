@@ -10,7 +10,7 @@ void prepareImageOverlay(const Annotation &mark, const MarkContext &context, Pre
         return;
     const QImage picture = context.overlays.picture(mark.id, *mark.imageData);
     if (!picture.isNull())
-        out.add(pictureFor(picture, mark.rect(), context.grid.scale(), context.paintable, context.budget));
+        out.add(pictureFor(picture, mark.rect(), context.grid.scale(), context.paintable, context.overlayBudget));
 }
 
 } // namespace tessaly

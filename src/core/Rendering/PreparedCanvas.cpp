@@ -10,6 +10,9 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <atomic>
+#include <functional>
+#include <thread>
 
 namespace tessaly {
 
@@ -44,19 +47,22 @@ struct DrawableMarks {
 /// The making of a PreparedCanvas.
 class PreparedCanvas::Preparation {
 public:
-    Preparation(PreparedCanvas &result, const AnnotationsCanvas &canvas, DrawableMarks marks, int threads) :
+    Preparation(
+        PreparedCanvas &result, const AnnotationsCanvas &canvas, DrawableMarks marks, QSize pixelSize, int threads) :
         m_result(result),
         m_marks(std::move(marks.listed)),
         m_canvas(QPointF(), canvas.imageSize),
+        m_pixels(QPoint(), pixelSize),
         m_threads(threads),
         m_context { result.m_grid, paintableOf(m_canvas), result.m_sample, canvas.noiseSeed, m_text,
-            *canvas.overlayCache, *canvas.obscuredCache, m_budget }
+            *canvas.overlayCache, *canvas.obscuredCache, m_glyphBudget, m_overlayBudget }
     {
         canvas.overlayCache->beginRound();
         m_result.m_marks.resize(size_t(m_marks.size()));
         prepareSpotlights(marks.spotlights, m_canvas, m_context.paintable, m_result.m_spotlights);
-        prepareOnThisThread();
-        prepareOnAnyThread();
+        m_result.m_spotlights.fitShapes(m_context.grid, m_pixels);
+        divideMarks();
+        prepareAllButLoupes();
         prepareLoupes();
     }
 
@@ -71,17 +77,26 @@ private:
     void prepare(qsizetype index)
     {
         const Annotation &mark = m_marks[index];
-        painterOf(mark.kind).prepare(mark, m_context, m_result.m_marks[size_t(index)]);
+        PreparedMark &prepared = m_result.m_marks[size_t(index)];
+        painterOf(mark.kind).prepare(mark, m_context, prepared);
+        prepared.fitShapes(m_context.grid, m_pixels);
     }
 
-    void prepareOnThisThread()
+    void divideMarks()
     {
         for (qsizetype index = 0; index < m_marks.size(); ++index) {
-            const MarkPainterRow &row = painterOf(m_marks[index].kind);
+            const Annotation &mark = m_marks[index];
+            const MarkPainterRow &row = painterOf(mark.kind);
+            if (!row.prepare)
+                continue;
             if (row.thread == PaintersThread::Starting)
-                prepare(index);
-            else if (row.prepare && affordable(m_marks[index]))
+                m_forThisThread.push_back(index);
+            else if (row.thread == PaintersThread::InOrder)
+                m_inOrder.push_back(index);
+            else if (affordable(mark))
                 m_forAnyThread.push_back(index);
+            else
+                m_result.m_marks[size_t(index)].add(CoverStep { m_context.grid.grownToPixels(mark.rect()), Qt::black });
         }
     }
 
@@ -93,16 +108,29 @@ private:
         return m_computed.take(m_result.m_sample.touchedPixels(mark.rect()).size());
     }
 
-    void prepareOnAnyThread()
+    /// The other threads start with what any may do, while this one does what only it may.
+    void prepareAllButLoupes()
     {
-        Parallel::forEach(
-            int(m_forAnyThread.size()), m_threads, [this](int index) { prepare(m_forAnyThread[size_t(index)]); });
-        for (qsizetype index = 0; index < m_marks.size(); ++index) {
-            PreparedMark &prepared = m_result.m_marks[size_t(index)];
-            if (m_marks[index].kind == AnnotationKind::Pixelate && prepared.steps.empty()
-                && !m_marks[index].rect().isEmpty())
-                prepared.add(CoverStep { m_context.grid.grownToPixels(m_marks[index].rect()), Qt::black });
-        }
+        std::vector<std::function<void()>> tasks { [this] {
+            for (const qsizetype index : m_inOrder)
+                prepare(index);
+        } };
+        for (const qsizetype index : m_forAnyThread)
+            tasks.emplace_back([this, index] { prepare(index); });
+        std::atomic<size_t> next = 0;
+        const auto drain = [&] {
+            for (size_t at = next++; at < tasks.size(); at = next++)
+                tasks[at]();
+        };
+        std::vector<std::jthread> others;
+        for (size_t extra = 1; extra < std::min(size_t(m_threads), tasks.size()); ++extra)
+            others.emplace_back(drain);
+        for (const qsizetype index : m_forThisThread)
+            prepare(index);
+        drain();
+        others.clear(); // waits for them
+        for (PreparedMark &mark : m_result.m_marks)
+            mark.fitPictures(m_context.grid, m_pixels, m_fitted);
     }
 
     struct Loupe {
@@ -145,46 +173,35 @@ private:
             const Loupe &loupe = loupes[size_t(number)];
             const QImage contents
                 = loupe.affordable ? loupe.painter.magnifierContents(m_result.m_sample, loupe.below) : QImage();
-            loupe.painter.prepare(contents, m_context.paintable, m_result.m_marks[size_t(loupe.index)]);
+            PreparedMark &prepared = m_result.m_marks[size_t(loupe.index)];
+            loupe.painter.prepare(contents, m_context.paintable, prepared);
+            prepared.fitShapes(m_context.grid, m_pixels);
         });
     }
 
     PreparedCanvas &m_result;
     QList<Annotation> m_marks;
     QRectF m_canvas;
+    QRect m_pixels; ///< that everything is fitted to; empty for a painter
     int m_threads;
     TextShaper m_text;
-    PixelBudget m_budget { maxPicturePixels };
+    PixelBudget m_glyphBudget { maxPicturePixels };
+    PixelBudget m_overlayBudget { maxPicturePixels };
     PixelBudget m_computed { maxPicturePixels };
+    qint64 m_fitted = maxPicturePixels;
     MarkContext m_context;
+    std::vector<qsizetype> m_forThisThread;
+    std::vector<qsizetype> m_inOrder;
     std::vector<qsizetype> m_forAnyThread;
 };
 
-PreparedCanvas::PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, int threads) : m_grid(grid)
+PreparedCanvas::PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, QSize pixelSize, int threads) :
+    m_grid(grid)
 {
     DrawableMarks marks(canvas, grid);
     if (canvas.source)
         m_sample = CaptureSample(*canvas.source, canvas.imageSize, std::move(marks.hidden));
-    const Preparation preparation(*this, canvas, std::move(marks), threads);
-}
-
-PreparedCanvas::PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, QSize pixelSize, int threads) :
-    PreparedCanvas(canvas, grid, threads)
-{
-    const QRect pixels(QPoint(), pixelSize);
-    const std::vector<PreparedMark *> marks = allMarks();
-    qint64 budget = maxPicturePixels;
-    for (PreparedMark *mark : marks)
-        mark->fitPictures(grid, pixels, budget);
-    Parallel::forEach(int(marks.size()), threads, [&](int index) { marks[size_t(index)]->fitShapes(grid, pixels); });
-}
-
-std::vector<PreparedMark *> PreparedCanvas::allMarks()
-{
-    std::vector<PreparedMark *> marks { &m_spotlights };
-    for (PreparedMark &mark : m_marks)
-        marks.push_back(&mark);
-    return marks;
+    const Preparation preparation(*this, canvas, std::move(marks), pixelSize, threads);
 }
 
 void PreparedCanvas::paint(QImage &image, const QRect &clip) const

@@ -18,12 +18,9 @@ class AnnotationsCanvas;
 /// the loupes show. Painting it changes nothing, so that several threads may paint parts of it at once.
 class PreparedCanvas {
 public:
-    /// For memory: everything is fitted to the pixels of a picture of `pixelSize`, at `grid`. Uses up to `threads`
-    /// threads, which do not change the result, and fonts where FontUse says so.
+    /// Everything is fitted to the pixels of a picture of `pixelSize` at `grid`; an empty size prepares for a painter
+    /// alone. Uses up to `threads` threads, which do not change the result, and fonts where FontUse says so.
     PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, QSize pixelSize, int threads);
-
-    /// For a painter.
-    PreparedCanvas(const AnnotationsCanvas &canvas, const PixelGrid &grid, int threads);
 
     /// Paints the rows of `image`, of the size that the canvas was prepared for, within `clip`.
     void paint(QImage &image, const QRect &clip) const;
@@ -36,8 +33,6 @@ public:
 
 private:
     class Preparation;
-
-    std::vector<PreparedMark *> allMarks();
 
     PixelGrid m_grid;
     CaptureSample m_sample;

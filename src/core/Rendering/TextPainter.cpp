@@ -25,7 +25,7 @@ void addText(const TextShape &shape, const TextPlacement &placement, const MarkC
     for (const TextShape::Picture &glyph : shape.pictures) {
         const QRectF target = placed.mapRect(glyph.target);
         if (target.intersects(context.paintable))
-            out.add(pictureFor(glyph.picture, target, context.grid.scale(), context.paintable, context.budget));
+            out.add(pictureFor(glyph.picture, target, context.grid.scale(), context.paintable, context.glyphBudget));
     }
 }
 

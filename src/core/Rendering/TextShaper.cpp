@@ -38,17 +38,25 @@ QList<QTextLayout::FormatRange> emojiFormats(const QString &line, const QFont &f
     return formats;
 }
 
+/// The box of all pixels that are not transparent.
 QRect inkOf(const QImage &picture)
 {
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
+    const int width = picture.width(), height = picture.height();
+    int left = width, right = -1, top = height, bottom = -1;
+    for (int y = 0; y < height; ++y) {
         const auto *row = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            if (qAlpha(row[x]) != 0)
-                ink |= QRect(x, y, 1, 1);
-        }
+        const auto *end = row + width;
+        const auto *first = std::find_if(row, end, [](QRgb pixel) { return qAlpha(pixel) != 0; });
+        if (first == end)
+            continue;
+        const auto *last = end;
+        while (qAlpha(*--last) == 0) { }
+        left = std::min(left, int(first - row));
+        right = std::max(right, int(last - row));
+        top = std::min(top, y);
+        bottom = y;
     }
-    return ink;
+    return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
 QStringList linesOf(QString text)
@@ -97,9 +105,11 @@ const TextShape &TextShaper::shape(const QString &text, const TextFace &face)
     const std::pair key { text, face };
     if (const auto known = m_shapes.constFind(key); known != m_shapes.constEnd())
         return *known;
+    TextShape shape;
+    if (text.trimmed().isEmpty()) // nothing to draw, and perhaps no application that could open a font
+        return *m_shapes.insert(key, shape);
     const QFont font = fontOf(face);
     const QFontMetricsF metrics(font);
-    TextShape shape;
     shape.ascent = metrics.ascent() / layoutSize;
     shape.capHeight = metrics.capHeight() / layoutSize;
     shape.lineHeight = metrics.height() / layoutSize;
@@ -147,7 +157,7 @@ void TextShaper::addRun(const QGlyphRun &run, QPointF origin, TextShape &shape)
     for (qsizetype index = 0; index < glyphs.size(); ++index) {
         const QPointF position = origin + positions[index];
         if (!inColor) {
-            shape.outline.addPath(font.pathForGlyph(glyphs[index]).translated(position));
+            shape.outline.addPath(glyphOutline(font, glyphs[index]).translated(position));
             continue;
         }
         const TextShape::Picture &glyph = colorGlyph(font, glyphs[index]);
@@ -156,13 +166,22 @@ void TextShaper::addRun(const QGlyphRun &run, QPointF origin, TextShape &shape)
     }
 }
 
+const QPainterPath &TextShaper::glyphOutline(const QRawFont &font, quint32 glyph)
+{
+    const std::pair key { font, glyph };
+    if (const auto known = m_glyphOutlines.constFind(key); known != m_glyphOutlines.constEnd())
+        return *known;
+    return *m_glyphOutlines.insert(key, font.pathForGlyph(glyph));
+}
+
 const TextShape::Picture &TextShaper::colorGlyph(const QRawFont &font, quint32 glyph)
 {
     if (const auto known = m_colorGlyphs.constFind(glyph); known != m_colorGlyphs.constEnd())
         return *known;
-    constexpr int side = 3 * layoutSize;
-    const QPoint origin(layoutSize, 2 * layoutSize);
-    QImage page(side, side, QImage::Format_ARGB32_Premultiplied);
+    // Colour glyphs are squares a little larger than the font size.
+    constexpr int border = layoutSize / 4;
+    const QPoint origin(border, border + layoutSize);
+    QImage page(2 * border + layoutSize * 5 / 4, 2 * border + layoutSize * 5 / 4, QImage::Format_ARGB32_Premultiplied);
     page.fill(Qt::transparent);
     QGlyphRun run;
     run.setRawFont(font);

@@ -7,6 +7,7 @@
 #include <QGlyphRun>
 #include <QHash>
 #include <QList>
+#include <QRawFont>
 #include <QString>
 
 namespace tessaly {
@@ -47,10 +48,12 @@ private:
     QFont fontOf(const TextFace &face);
     void addLine(const QString &line, const QFont &font, QPointF origin, TextShape &shape);
     void addRun(const QGlyphRun &run, QPointF origin, TextShape &shape);
+    const QPainterPath &glyphOutline(const QRawFont &font, quint32 glyph);
     const TextShape::Picture &colorGlyph(const QRawFont &font, quint32 glyph);
 
     QString m_systemFamily;
     QHash<std::pair<QString, TextFace>, TextShape> m_shapes;
+    QHash<std::pair<QRawFont, quint32>, QPainterPath> m_glyphOutlines;
     QHash<quint32, TextShape::Picture> m_colorGlyphs; ///< target relative to the glyph's origin
 };
 

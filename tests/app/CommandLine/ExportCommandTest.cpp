@@ -151,6 +151,17 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo("/dev/null").isFile());
     }
 
+    void marksThatWriteNothingDrawWithoutFonts()
+    {
+        const Program program;
+        program.putPicture("in.png", { 30, 20 });
+        program.put("marks.json", R"([{"kind":"stamp","stamp":"number","p1":[1,1],"p2":[15,15]},
+            {"kind":"text","text":" ","p1":[1,1],"p2":[1,1]},{"kind":"sticker","p1":[1,1],"p2":[9,9]},
+            {"kind":"stamp","stamp":"star","stampLabel":" ","p1":[16,1],"p2":[29,15]}])");
+        const Finished finished = program.run({ "export", "in.png", "-o", "out.png", "--annotations", "marks.json" });
+        QCOMPARE(stateOf(finished), "0 ");
+    }
+
     void fileNamesAreTakenAsTheyAre()
     {
         const Program program;

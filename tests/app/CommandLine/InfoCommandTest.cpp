@@ -9,9 +9,26 @@ using namespace tessaly::test;
 class InfoCommandTest : public QObject {
     Q_OBJECT
 
-    static QJsonObject jsonOf(const Finished &finished) { return QJsonDocument::fromJson(finished.output).object(); }
+    /// The value with its numbers rounded to what a reader of the text can tell apart.
+    static QJsonValue rounded(const QJsonValue &value)
+    {
+        if (value.isDouble())
+            return std::round(value.toDouble() * 1e6) / 1e6;
+        QJsonArray array = value.toArray();
+        for (qsizetype index = 0; index < array.size(); ++index)
+            array[index] = rounded(array.at(index));
+        QJsonObject object = value.toObject();
+        for (const QString &key : object.keys())
+            object[key] = rounded(object.value(key));
+        return value.isArray() ? QJsonValue(array) : value.isObject() ? QJsonValue(object) : value;
+    }
 
-    static QJsonObject parsed(const char *json) { return QJsonDocument::fromJson(json).object(); }
+    static QJsonObject parsed(const QByteArray &json)
+    {
+        return rounded(QJsonDocument::fromJson(json).object()).toObject();
+    }
+
+    static QJsonObject jsonOf(const Finished &finished) { return parsed(finished.output); }
 
 private Q_SLOTS:
     void jsonHoldsTheGeometry()
