@@ -3,6 +3,7 @@
 
 #include "core/Imaging/GaussianBlur.h"
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
