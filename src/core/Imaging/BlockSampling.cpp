@@ -5,12 +5,10 @@
 
 #include <algorithm>
 #include <cstring>
-#include <vector>
 
 namespace tessaly::BlockSampling {
 
 using GaussianBlur::Outside;
-using Sample = SamplePlane::Sample;
 
 namespace {
 
@@ -38,32 +36,14 @@ void addRows(const uchar *first, qsizetype step, int count, int bytes, Sample *s
         addLanes<1>(first + index, step, count, sums + index);
 }
 
-/// The sums of the block row's pixels, one below the other, in the pixel columns `from` to before `to`.
-void sumBlockRow(const QImage &image, const Grid &grid, Outside outside, int blockRow, int from, int to, Sample *sums)
-{
-    const int top = (blockRow - 1) * grid.side, bottom = top + grid.side, bytes = (to - from) * grid.channels;
-    const int height = image.height();
-    std::fill_n(sums, bytes, Sample(0));
-    const auto add = [&](int y, qsizetype step, int count) {
-        if (count > 0)
-            addRows(image.constScanLine(y) + qsizetype(from) * grid.channels, step, count, bytes, sums);
-    };
-    const int firstInside = std::clamp(top, 0, height), endInside = std::clamp(bottom, 0, height);
-    add(std::min(firstInside, height - 1), image.bytesPerLine(), endInside - firstInside);
-    if (outside == Outside::Edge) {
-        add(0, 0, std::min(firstInside, bottom) - top);
-        add(height - 1, 0, bottom - std::max(endInside, top));
-    }
-}
-
-/// Adds neighbouring pixels until one is left for each block.
+/// Adds neighbouring pixels until one is left for each square of `side` pixels.
 template <int channels>
-void addNeighbours(Sample *sums, int blocks, int side)
+void addNeighbours(Sample *sums, int squares, int side)
 {
     // A pixel's channels are added as one word: no sum carries into the next channel.
     using Word = std::conditional_t<channels == 4, std::uint64_t, std::uint16_t>;
     for (int left = side / 2; left > 0; left /= 2) {
-        for (int index = 0; index < blocks * left; ++index) {
+        for (int index = 0; index < squares * left; ++index) {
             Word pair[2];
             std::memcpy(pair, sums + 2 * index * channels, sizeof pair);
             const auto sum = static_cast<Word>(pair[0] + pair[1]);
@@ -72,90 +52,55 @@ void addNeighbours(Sample *sums, int blocks, int side)
     }
 }
 
-/// A row of the picture between two rows of blocks, and between two blocks, of which the first is named.
+/// `above` and `below` mixed by weights that add up to 65 536, or one less.
+inline __attribute__((always_inline)) Sample mixed(Sample above, Sample below, Sample aboveWeight, Sample belowWeight)
+{
+    return static_cast<Sample>(static_cast<Sample>(std::uint32_t(above) * aboveWeight >> 16)
+        + static_cast<Sample>(std::uint32_t(below) * belowWeight >> 16));
+}
+
+TESSALY_WIDE_VECTORS
+void mixNeighbours(const Sample *first, const Sample *second, Sample firstWeight, Sample secondWeight, int count,
+    Sample *__restrict out)
+{
+    for (int index = 0; index < count; ++index)
+        out[index] = mixed(first[index], second[index], firstWeight, secondWeight);
+}
+
+TESSALY_WIDE_VECTORS
+void mixToBytes(const Sample *first, const Sample *second, Sample firstWeight, Sample secondWeight, int count,
+    uchar *__restrict out)
+{
+    for (int index = 0; index < count; ++index) {
+        const Sample sample = mixed(first[index], second[index], firstWeight, secondWeight);
+        out[index] = static_cast<uchar>(static_cast<Sample>(sample + 128) >> 8);
+    }
+}
+
+/// A pixel row between the middles of two rows of blocks, of which the first is named.
 struct Between {
-    Between(int pixel, int side) : first((2 * pixel + 1 + side) / (2 * side)), part((2 * pixel + 1 + side) % (2 * side))
+    Between(int pixel, int side) :
+        first((2 * pixel + 1 + side) / (2 * side)),
+        secondWeight(static_cast<Sample>((2 * pixel + 1 + side) % (2 * side) * (32768 / side))),
+        firstWeight(static_cast<Sample>(std::min(65536 - secondWeight, 65535)))
     {
     }
 
     int first;
-    int part; ///< of 2 · side parts of the way to the next
+    Sample secondWeight, firstWeight;
 };
 
-/// The pixels that lie `after` 65 536ths of the way from each sample to the next pixel's; 3 bits are left after the
-/// point.
-TESSALY_WIDE_VECTORS
-void mixNeighbours(const Sample *first, const Sample *second, Sample after, int count, Sample *__restrict mixed)
-{
-    const auto before = static_cast<Sample>(65536 - after);
-    for (int index = 0; index < count; ++index) {
-        const auto sum = static_cast<Sample>(
-            (std::uint32_t(first[index]) * before >> 16) + (std::uint32_t(second[index]) * after >> 16));
-        mixed[index] = static_cast<Sample>(static_cast<Sample>(sum + 16) >> 5);
-    }
-}
-
-/// Widens rows of block means to `side` pixels for each interval between two.
+/// Widens a row of means to `side` pixels for each interval between the middles of two blocks.
 template <int channels>
-class Widener {
-public:
-    explicit Widener(const Grid &grid) :
-        m_side(grid.side),
-        m_intervals(grid.columns() - 1),
-        m_mixed(std::size_t(m_intervals) * channels)
-    {
-    }
-
-    void widen(const Sample *row, Sample *wide)
-    {
-        if (m_side == 1) {
-            for (int index = 0; index < m_intervals * channels; ++index)
-                wide[index] = static_cast<Sample>((row[index] + 16) >> 5);
-            return;
-        }
-        for (int pixel = 0; pixel < m_side; ++pixel) {
-            const auto after = static_cast<Sample>((2 * pixel + 1) * (32768 / m_side));
-            mixNeighbours(row, row + channels, after, m_intervals * channels, m_mixed.data());
-            const Sample *from = m_mixed.data();
-            Sample *to = wide + pixel * channels;
-            const int step = m_side * channels;
-            for (const Sample *end = from + m_intervals * channels; from < end; from += channels, to += step)
-                std::memcpy(to, from, channels * sizeof(Sample));
-        }
-    }
-
-private:
-    int m_side, m_intervals;
-    std::vector<Sample> m_mixed;
-};
-
-/// `below` counts for `part` 32nds.
-TESSALY_WIDE_VECTORS
-void mixRows(const Sample *above, const Sample *below, int part, int count, uchar *__restrict out)
+void widen(const Sample *row, int intervals, int side, Sample *mixing, Sample *wide)
 {
-    const auto aboveWeight = static_cast<Sample>(32 - part), belowWeight = static_cast<Sample>(part);
-    for (int index = 0; index < count; ++index) {
-        const auto mixed = static_cast<Sample>(above[index] * aboveWeight + below[index] * belowWeight + 128);
-        out[index] = static_cast<uchar>(mixed >> 8);
-    }
-}
-
-template <int channels>
-void enlargeRows(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end)
-{
-    Widener<channels> widener(grid);
-    const int count = grid.pixelSize.width() * channels, margin = std::max(grid.side / 2, 1) * channels;
-    const int firstRow = Between(first, grid.side).first;
-    std::vector<Sample> above(std::size_t(grid.columns()) * grid.side * channels), below(above.size());
-    int widened = firstRow - 1;
-    for (int y = first; y < end; ++y) {
-        const Between place(y, grid.side);
-        for (; widened <= place.first; ++widened) {
-            above.swap(below);
-            widener.widen(means.row(widened + 1 - firstRow), below.data());
-        }
-        mixRows(
-            above.data() + margin, below.data() + margin, place.part * 16 / grid.side, count, bits + y * bytesPerLine);
+    for (int pixel = 0; pixel < side; ++pixel) {
+        const Between place(pixel + side / 2, side);
+        mixNeighbours(row, row + channels, place.firstWeight, place.secondWeight, intervals * channels, mixing);
+        Sample *to = wide + pixel * channels;
+        const int step = side * channels;
+        for (int index = 0; index < intervals; ++index)
+            std::memcpy(to + index * step, mixing + index * channels, channels * sizeof(Sample));
     }
 }
 
@@ -164,47 +109,95 @@ void enlargeRows(const SamplePlane &means, const Grid &grid, uchar *bits, qsizet
 double variance(int blockSide)
 {
     // A mean over the block and, on the way back, a triangle twice as wide.
-    const double square = blockSide * blockSide;
+    const double square = double(blockSide) * blockSide;
     return blockSide == 1 ? 0 : (square - 1) / 12 + square / 6;
 }
 
-std::pair<int, int> Grid::rowsAround(int first, int end) const
+Shrinker::Shrinker(const QImage &image, const Grid &grid, Outside outside) :
+    m_image(image),
+    m_grid(grid),
+    m_outside(outside),
+    m_partSide(std::min(grid.side, 16)),
+    m_sums(std::size_t(grid.columns()) * grid.side * grid.channels),
+    m_totals(std::size_t(grid.columns()) * grid.channels)
 {
-    return { Between(first, side).first, Between(end - 1, side).first + 2 };
 }
 
-void shrink(const QImage &image, const Grid &grid, Outside outside, SamplePlane &means, int first, int end)
+/// The sums of `height` rows, at most `m_partSide`, over the pixel columns `from` to before `to`.
+void Shrinker::sumRows(int top, int height, int from, int to, Sample *sums) const
 {
-    const int width = image.width(), channels = grid.channels, blocks = end - first;
-    const int from = (first - 1) * grid.side, to = (end - 1) * grid.side;
-    const int firstInside = std::clamp(from, 0, width), endInside = std::clamp(to, firstInside, width);
-    const auto scale = static_cast<Sample>(256 / (grid.side * grid.side));
-    const auto addPixels = channels == 4 ? addNeighbours<4> : addNeighbours<1>;
-    std::vector<Sample> sums(std::size_t(to - from) * channels);
-    Sample edge[4] = {};
-    for (int row = 0; row < grid.rows(); ++row) {
-        const auto continueEdge = [&](int pixel, int begin, int stop) {
-            if (begin < stop && outside == Outside::Edge)
-                sumBlockRow(image, grid, outside, row, pixel, pixel + 1, edge);
-            for (int place = begin; place < stop; ++place)
-                std::copy_n(edge, channels, sums.begin() + (place - from) * channels);
-        };
-        continueEdge(0, from, std::min(firstInside, to));
-        sumBlockRow(image, grid, outside, row, firstInside, endInside, sums.data() + (firstInside - from) * channels);
-        continueEdge(width - 1, std::max(endInside, from), to);
-        addPixels(sums.data(), blocks, grid.side);
-        Sample *out = means.row(row) + first * channels;
-        for (int index = 0; index < blocks * channels; ++index)
-            out[index] = static_cast<Sample>(sums[index] * scale);
+    const int bottom = top + height, end = m_image.height(), bytes = (to - from) * m_grid.channels;
+    std::fill_n(sums, bytes, Sample(0));
+    const auto add = [&](int y, qsizetype step, int count) {
+        if (count > 0)
+            addRows(m_image.constScanLine(y) + qsizetype(from) * m_grid.channels, step, count, bytes, sums);
+    };
+    if (m_outside == Outside::Edge) {
+        add(0, 0, std::min(bottom, 0) - top);
+        add(end - 1, 0, bottom - std::max(top, end));
     }
+    const int firstInside = std::clamp(top, 0, end - 1);
+    add(firstInside, m_image.bytesPerLine(), std::min(bottom, end) - std::max(top, 0));
 }
 
-void enlarge(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end)
+/// The same over the whole width with the border's blocks.
+void Shrinker::sumAcross(int top, int height)
 {
-    if (grid.channels == 4)
-        enlargeRows<4>(means, grid, bits, bytesPerLine, first, end);
-    else
-        enlargeRows<1>(means, grid, bits, bytesPerLine, first, end);
+    const int width = m_image.width(), channels = m_grid.channels;
+    const auto begin = m_sums.begin() + m_grid.side * channels, end = begin + width * channels;
+    sumRows(top, height, 0, width, &*begin);
+    const bool zero = m_outside == Outside::Nothing;
+    for (auto pixel = m_sums.begin(); pixel < begin; pixel += channels)
+        zero ? std::fill_n(pixel, channels, Sample(0)) : std::copy_n(begin, channels, pixel);
+    for (auto pixel = end; pixel < m_sums.end(); pixel += channels)
+        zero ? std::fill_n(pixel, channels, Sample(0)) : std::copy_n(end - channels, channels, pixel);
+}
+
+void Shrinker::shrinkRow(int row, Sample *means)
+{
+    const int channels = m_grid.channels, columns = m_grid.columns(), parts = m_grid.side / m_partSide;
+    const auto addPixels = channels == 4 ? addNeighbours<4> : addNeighbours<1>;
+    const int scale = 256 / (m_partSide * m_partSide), top = (row - 1) * m_grid.side;
+    if (parts == 1) {
+        sumAcross(top, m_partSide);
+        addPixels(m_sums.data(), columns, m_partSide);
+        for (std::size_t index = 0; index < m_totals.size(); ++index)
+            means[index] = static_cast<Sample>(m_sums[index] * scale);
+        return;
+    }
+    std::fill(m_totals.begin(), m_totals.end(), 0);
+    for (int part = 0; part < parts; ++part) {
+        sumAcross(top + part * m_partSide, m_partSide);
+        addPixels(m_sums.data(), columns * parts, m_partSide);
+        const Sample *sum = m_sums.data();
+        for (int column = 0; column < columns * parts; ++column) {
+            for (int channel = 0; channel < channels; ++channel)
+                m_totals[column / parts * channels + channel] += *sum++;
+        }
+    }
+    for (std::size_t index = 0; index < m_totals.size(); ++index)
+        means[index] = static_cast<Sample>(m_totals[index] / (parts * parts));
+}
+
+void enlarge(const Grid &grid, int first, int end, const std::function<void(int, Sample *)> &readRow, uchar *bits,
+    qsizetype bytesPerLine)
+{
+    const int columns = grid.columns(), channels = grid.channels, intervals = columns - 1;
+    const int count = grid.pixelSize.width() * channels, margin = (grid.side - grid.side / 2) * channels;
+    std::vector<Sample> row(std::size_t(columns) * channels), mixing(row.size());
+    std::vector<Sample> above(std::size_t(intervals) * grid.side * channels), below(above.size());
+    const auto widenRow = channels == 4 ? widen<4> : widen<1>;
+    int widened = Between(first, grid.side).first - 1;
+    for (int y = first; y < end; ++y) {
+        const Between place(y, grid.side);
+        for (; widened <= place.first; ++widened) {
+            above.swap(below);
+            readRow(widened + 1, row.data());
+            widenRow(row.data(), intervals, grid.side, mixing.data(), below.data());
+        }
+        mixToBytes(above.data() + margin, below.data() + margin, place.firstWeight, place.secondWeight, count,
+            bits + y * bytesPerLine);
+    }
 }
 
 } // namespace tessaly::BlockSampling

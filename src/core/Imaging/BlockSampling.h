@@ -2,14 +2,18 @@
 #pragma once
 
 #include "core/Imaging/GaussianBlur.h"
-#include "core/Imaging/SamplePlane.h"
 
-#include <utility>
+#include <cstdint>
+#include <functional>
+#include <vector>
 
 /// A picture held as the means of its square blocks, for work that looks at nothing finer.
 namespace tessaly::BlockSampling {
 
-constexpr int maxBlockSide = 16;
+/// A channel's mean: 8 bits before the point and 8 after it.
+using Sample = std::uint16_t;
+
+constexpr int maxBlockSide = 4096;
 
 /// The variance in pixels that shrinking and enlarging add together.
 double variance(int blockSide);
@@ -22,18 +26,31 @@ struct Grid {
 
     int columns() const { return (pixelSize.width() + side - 1) / side + 2; }
     int rows() const { return (pixelSize.height() + side - 1) / side + 2; }
-
-    /// The rows of blocks, from the first to before the second, that the pixel rows `first` to before `end` lie
-    /// between.
-    std::pair<int, int> rowsAround(int first, int end) const;
 };
 
-/// Writes the means of the blocks in the columns of blocks `first` to before `end`.
-void shrink(
-    const QImage &image, const Grid &grid, GaussianBlur::Outside outside, SamplePlane &means, int first, int end);
+/// Takes the means, one row of blocks at a time. Keeps references; each thread needs its own.
+class Shrinker {
+public:
+    Shrinker(const QImage &image, const Grid &grid, GaussianBlur::Outside outside);
 
-/// Writes the pixel rows `first` to before `end` with straight lines between the blocks. Row 0 of `means` is the row of
-/// blocks `rowsAround` names first; `bits` is the picture's first byte.
-void enlarge(const SamplePlane &means, const Grid &grid, uchar *bits, qsizetype bytesPerLine, int first, int end);
+    /// Writes the row's means: `grid.columns()` times `grid.channels` of them.
+    void shrinkRow(int row, Sample *means);
+
+private:
+    void sumRows(int top, int height, int from, int to, Sample *sums) const;
+    void sumAcross(int top, int height);
+
+    const QImage &m_image;
+    const Grid &m_grid;
+    GaussianBlur::Outside m_outside;
+    int m_partSide; ///< of the square parts of a block that are summed in 16 bits
+    std::vector<Sample> m_sums;
+    std::vector<std::uint32_t> m_totals;
+};
+
+/// Writes the pixel rows `first` to before `end` with straight lines between the blocks; `bits` is the picture's first
+/// byte. `readRow(row, means)` is asked for the rows of blocks that they lie between, downwards and once each.
+void enlarge(const Grid &grid, int first, int end, const std::function<void(int, Sample *)> &readRow, uchar *bits,
+    qsizetype bytesPerLine);
 
 } // namespace tessaly::BlockSampling

@@ -104,14 +104,6 @@ private Q_SLOTS:
         QVERIFY(largest > 1.0 / 4000); // it does turn
         QVERIFY2(largestStep < 0.35 * largest, qPrintable(QString::number(largestStep / largest)));
     }
-
-    void meetsTheCircleInTheMiddleOfTheCorner()
-    {
-        const QPainterPath path = continuousCornerPath(QRectF(0, 0, 400, 400), 100);
-        const double diagonal = 100 * (1 - std::sqrt(0.5));
-        QVERIFY(path.contains(QPointF(diagonal + 0.05, diagonal + 0.05)));
-        QVERIFY(!path.contains(QPointF(diagonal - 0.05, diagonal - 0.05)));
-    }
 };
 
 QTEST_GUILESS_MAIN(ContinuousCornersTest)
