@@ -2,6 +2,7 @@
 #include "core/Export/BmpEncoder.h"
 
 #include "core/Export/OpaqueCopy.h"
+#include "core/Imaging/ResolutionRecord.h"
 
 #include <QCoreApplication>
 #include <QtEndian>
@@ -25,7 +26,8 @@ constexpr quint32 headerBytes = 40;
 
 QByteArray headers(const RasterImage &image, quint32 pixelBytes)
 {
-    const auto pixelsPerMetre = static_cast<qint32>(std::lround(image.dpi() / 0.0254));
+    const auto pixelsPerMetre
+        = static_cast<qint32>(std::lround(ResolutionRecord::dpiToRecord(image).value_or(72) / 0.0254));
     QByteArray result("BM");
     append(result, fileHeaderBytes + headerBytes + pixelBytes);
     append<quint32>(result, 0);

@@ -34,8 +34,9 @@ private:
     int m_before = omp_get_max_threads();
 };
 
-// Mean square error, in levels, from which on dithering gains more than its noise costs.
-constexpr double errorThatDitheringHides = 4;
+// Mean square error from which on dithering gains more than its noise costs. Interfaces stay far below it; pictures
+// with broad gradients or photographs come above.
+constexpr double errorThatDitheringHides = 0.5;
 
 void readRow(liq_color target[], int row, int width, void *userInfo)
 {

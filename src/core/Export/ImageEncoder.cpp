@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 namespace tessaly {
 
@@ -49,7 +50,11 @@ Result<QByteArray> encodeImage(const RasterImage &image, ExportFormat format, co
                              .arg(label(format), QString::number(encoder.maxSide), QString::number(size.width()),
                                  QString::number(size.height())) };
     }
-    return encoder.encode(image, options);
+    try {
+        return encoder.encode(image, options);
+    } catch (const std::bad_alloc &) {
+        return Failure { tr("There is not enough memory to write this picture.") };
+    }
 }
 
 } // namespace tessaly

@@ -5,6 +5,8 @@
 #include "core/Export/OpaqueCopy.h"
 #include "core/Imaging/ResolutionRecord.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <csetjmp>
 #include <cstdio>
@@ -92,7 +94,8 @@ Result<QByteArray> encode(const RasterImage &image, const EncodeOptions &options
     const QByteArray file(reinterpret_cast<const char *>(buffer), done ? static_cast<qsizetype>(size) : 0);
     std::free(buffer);
     if (!done)
-        return Failure { QString::fromLatin1(manager.message) };
+        return Failure { QCoreApplication::translate("JpegEncoder", "The picture could not be written as JPEG: %1.")
+                             .arg(QString::fromLatin1(manager.message)) };
     return file;
 }
 

@@ -83,8 +83,7 @@ QByteArray imageDictionary(const PixelRows &rows, QSize size)
 void addImage(ObjectWriter &writer, const RasterImage &image, int threads)
 {
     const bool masked = !isOpaque(image.pixels);
-    const QImage colors = masked ? image.pixels.convertToFormat(QImage::Format_ARGB32) : image.pixels;
-    const PixelRows rows(colors, PixelLayout::Rgb);
+    const PixelRows rows(image.pixels, PixelLayout::Rgb);
     QByteArray dictionary = imageDictionary(rows, image.pixelSize());
     if (masked)
         dictionary += " /SMask " + QByteArray::number(writer.nextNumber() + 1) + " 0 R";

@@ -35,6 +35,14 @@ void readRgb(const QRgb *pixels, int count, uint8_t *samples)
     }
 }
 
+void readTranslucentRgb(const QRgb *pixels, int count, uint8_t *samples)
+{
+    for (int x = 0; x < count; ++x, samples += 3) {
+        const QRgb pixel = qUnpremultiply(pixels[x]);
+        readRgb(&pixel, 1, samples);
+    }
+}
+
 void readRgba(const QRgb *pixels, int count, uint8_t *samples)
 {
     for (int x = 0; x < count; ++x) {
@@ -79,7 +87,7 @@ void PixelRows::readSamples(int row, uint8_t *samples) const
     const QRgb *pixels = pixelsOf(m_image, row);
     switch (m_layout) {
     case PixelLayout::Rgb:
-        return readRgb(pixels, m_image.width(), samples);
+        return (m_image.hasAlphaChannel() ? readTranslucentRgb : readRgb)(pixels, m_image.width(), samples);
     case PixelLayout::Rgba:
         return readRgba(pixels, m_image.width(), samples);
     case PixelLayout::Alpha:

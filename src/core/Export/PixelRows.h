@@ -14,11 +14,10 @@ enum class PixelLayout { Alpha = 1, Rgb = 3, Rgba = 4 };
 bool isOpaque(const QImage &image);
 
 /// The rows of a picture as PNG stores them: a byte that names a filter, and 8-bit samples less what the filter
-/// foresees from the pixels to the left and above. Rgba is not premultiplied in them; Rgb is whatever the picture
-/// holds.
+/// foresees from the pixels to the left and above. Alpha is not premultiplied in them.
 class PixelRows {
 public:
-    /// `image` is in one of RasterImage's two formats, or Format_ARGB32 for its Rgb alone.
+    /// `image` is in one of RasterImage's two formats.
     PixelRows(QImage image, PixelLayout layout);
 
     int rowCount() const { return m_image.height(); }

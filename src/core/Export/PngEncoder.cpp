@@ -2,6 +2,7 @@
 #include "core/Export/PngEncoder.h"
 
 #include "core/Export/ZlibPixels.h"
+#include "core/Imaging/ResolutionRecord.h"
 
 #include <libdeflate.h>
 
@@ -63,8 +64,8 @@ Result<QByteArray> encode(const RasterImage &image, const EncodeOptions &options
     file.append("\x89PNG\r\n\x1a\n", 8);
     appendChunk(file, "IHDR", header(image.pixelSize(), layout));
     appendChunk(file, "sRGB", QByteArray(1, '\0')); // perceptual
-    if (image.dpi() != 72)
-        appendChunk(file, "pHYs", resolution(image.dpi()));
+    if (const auto dpi = ResolutionRecord::dpiToRecord(image))
+        appendChunk(file, "pHYs", resolution(*dpi));
     for (const QByteArray &piece : pieces)
         appendChunk(file, "IDAT", piece);
     appendChunk(file, "IEND", {});

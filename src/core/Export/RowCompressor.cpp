@@ -13,12 +13,10 @@ namespace {
 constexpr int hashBits = 15;
 // Symbols in a block: enough to pay for the header, few enough for the codes to follow the content.
 constexpr uint32_t symbolsPerBlock = 32768;
-// A match at least this long is taken without a look at the next byte.
-constexpr uint32_t goodLength = 16;
 // Inside longer matches nothing is remembered: they are runs or whole rows, which the fixed distances find again.
-constexpr uint32_t longestRemembered = 64;
+constexpr uint32_t longestRemembered = 32;
 // After 2^this bytes without a match every second byte is tried, then every third: noise has no matches.
-constexpr int patience = 6;
+constexpr int patience = 5;
 
 uint32_t read4(const uint8_t *bytes) { return qFromUnaligned<uint32_t>(bytes); }
 uint64_t read8(const uint8_t *bytes) { return qFromLittleEndian<quint64>(bytes); }
@@ -41,18 +39,14 @@ uint32_t equalBytes(const uint8_t *one, const uint8_t *other, const uint8_t *end
 
 RowCompressor::RowCompressor(int bytesPerPixel, int bytesPerRow) :
     m_bytesPerPixel(static_cast<uint32_t>(bytesPerPixel)),
-    m_bytesPerRow(static_cast<uint32_t>(bytesPerRow)),
+    m_bytesPerRow(static_cast<uint32_t>(bytesPerRow <= DeflateBlock::maxDistance ? bytesPerRow : bytesPerPixel)),
     m_positions(size_t(1) << hashBits)
 {
 }
 
-void RowCompressor::considerDistance(uint32_t position, uint32_t distance, Match &best) const
+void RowCompressor::extend(uint32_t position, uint32_t distance, Match &best) const
 {
-    if (distance > position || distance > DeflateBlock::maxDistance)
-        return;
     const uint8_t *here = m_rows.data() + position;
-    if (read4(here - distance) != read4(here))
-        return;
     const size_t most = std::min<size_t>(m_rows.size() - position, DeflateBlock::maxMatch);
     const uint32_t length = equalBytes(here - distance, here, here + most);
     if (length > best.length)
@@ -63,17 +57,23 @@ void RowCompressor::considerDistance(uint32_t position, uint32_t distance, Match
 RowCompressor::Match RowCompressor::bestMatch(uint32_t position)
 {
     const uint8_t *here = m_rows.data() + position;
-    uint32_t &remembered = m_positions[hashOf(read4(here))];
+    const uint32_t four = read4(here);
+    uint32_t &remembered = m_positions[hashOf(four)];
     const uint32_t seen = std::exchange(remembered, position + 1);
 
     Match best;
-    considerDistance(position, m_bytesPerPixel, best);
+    const auto consider = [&](uint32_t distance) {
+        if (distance <= position && read4(here - distance) == four)
+            extend(position, distance, best);
+    };
+    consider(m_bytesPerPixel);
     if (best.length == DeflateBlock::maxMatch)
         return best;
-    considerDistance(position, m_lastDistance, best);
-    considerDistance(position, m_bytesPerRow, best);
-    if (seen > 0)
-        considerDistance(position, position + 1 - seen, best);
+    consider(m_lastDistance);
+    consider(m_bytesPerRow);
+    const uint32_t sinceSeen = position + 1 - seen;
+    if (seen > 0 && sinceSeen <= DeflateBlock::maxDistance)
+        consider(sinceSeen);
     if (best.length > 0)
         return best;
     // Three bytes pay only where the distance is cheap: repeated, or next to nothing.
@@ -118,19 +118,12 @@ void RowCompressor::compress(std::span<const uint8_t> rows, QByteArray &target)
     const auto size = static_cast<uint32_t>(rows.size());
     uint32_t misses = 0;
     for (uint32_t position = 0; position + 8 < size;) {
-        Match match = bestMatch(position);
+        const Match match = bestMatch(position);
         if (match.length == 0) {
             position = std::min(position + 1 + (misses++ >> patience), size);
             if (m_blockSymbols + (position - m_literalStart) >= symbolsPerBlock)
                 writeBlock(writer, position);
             continue;
-        }
-        if (match.length < goodLength && position + 9 < size) {
-            const Match next = bestMatch(position + 1);
-            if (next.length > match.length) {
-                match = next;
-                ++position;
-            }
         }
         misses = 0;
         accept(position, match);

@@ -29,12 +29,12 @@ private:
     };
 
     Match bestMatch(uint32_t position);
-    void considerDistance(uint32_t position, uint32_t distance, Match &best) const;
+    void extend(uint32_t position, uint32_t distance, Match &best) const;
     void accept(uint32_t position, Match match);
     void writeBlock(BitWriter &writer, uint32_t end);
 
     uint32_t m_bytesPerPixel;
-    uint32_t m_bytesPerRow;
+    uint32_t m_bytesPerRow; ///< bytesPerPixel where a row is longer than a match reaches back
     std::vector<uint32_t> m_positions; ///< by hash of 4 bytes: where they were last seen, plus 1
     std::vector<DeflateBlock::Sequence> m_sequences; ///< of the block that is being gathered
     std::span<const uint8_t> m_rows;

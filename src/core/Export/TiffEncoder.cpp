@@ -2,6 +2,7 @@
 #include "core/Export/TiffEncoder.h"
 
 #include "core/Export/PixelRows.h"
+#include "core/Imaging/ResolutionRecord.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -66,8 +67,9 @@ void setTags(TIFF *tiff, const RasterImage &image, PixelLayout layout)
     const auto rowBytes = static_cast<uint32_t>(image.pixels.width()) * static_cast<uint32_t>(layout);
     TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, std::max(1u, 256 * 1024 / rowBytes));
     TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, static_cast<float>(image.dpi()));
-    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, static_cast<float>(image.dpi()));
+    const auto dpi = static_cast<float>(ResolutionRecord::dpiToRecord(image).value_or(72));
+    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, dpi);
+    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, dpi);
 }
 
 bool writeRows(TIFF *tiff, const PixelRows &rows)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Export/WebPEncoder.h"
 
+#include "core/Export/PixelRows.h"
+
 #include <QCoreApplication>
 #include <QtEndian>
 
@@ -10,6 +12,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <vector>
 
 namespace tessaly::WebPEncoder {
 
@@ -93,15 +96,19 @@ QByteArray withResolution(const QByteArray &file, double dpi)
 
 Result<QByteArray> encode(const RasterImage &image, const EncodeOptions &options)
 {
-    const QImage straight = image.pixels.convertToFormat(QImage::Format_RGBA8888);
+    const int width = image.pixels.width(), height = image.pixels.height(), stride = width * 4;
+    const PixelRows rows(image.pixels, PixelLayout::Rgba);
+    std::vector<uint8_t> samples(static_cast<size_t>(stride) * static_cast<size_t>(height));
+    for (int row = 0; row < height; ++row)
+        rows.readSamples(row, samples.data() + static_cast<size_t>(row) * static_cast<size_t>(stride));
+
     uint8_t *bytes = nullptr;
     size_t size = 0;
-    const int width = straight.width(), height = straight.height(), stride = static_cast<int>(straight.bytesPerLine());
-    if (!straight.isNull() && options.quality >= 1) {
-        size = WebPEncodeLosslessRGBA(straight.constBits(), width, height, stride, &bytes);
-    } else if (!straight.isNull()) {
+    if (options.quality >= 1) {
+        size = WebPEncodeLosslessRGBA(samples.data(), width, height, stride, &bytes);
+    } else {
         const auto quality = options.quality > 0 ? static_cast<float>(options.quality * 100) : 0.0f;
-        size = WebPEncodeRGBA(straight.constBits(), width, height, stride, quality, &bytes);
+        size = WebPEncodeRGBA(samples.data(), width, height, stride, quality, &bytes);
     }
     const std::unique_ptr<uint8_t, Freed> freed(bytes);
     if (size == 0 || !bytes)

@@ -30,7 +30,7 @@ QString tr(const char *text) { return QCoreApplication::translate("ImageReading"
 
 Failure damaged(const QString &name) { return { tr("%1 is damaged or incomplete.").arg(name) }; }
 
-/// A reader for `device`, its header read and found good.
+/// Whether what `reader` reads from is all there and of an allowed size.
 Outcome checkHeader(QImageReader &reader, const QByteArray &bytes, const QString &name, const ImageReadOptions &options)
 {
     if (bytes.isEmpty())
@@ -38,6 +38,8 @@ Outcome checkHeader(QImageReader &reader, const QByteArray &bytes, const QString
     const QByteArray format = reader.format();
     if (std::ranges::find(knownFormats, QByteArrayView(format)) == knownFormats.end())
         return Failure { tr("%1 is not a picture of a format that can be read.").arg(name) };
+    if (!hasWholePicture(bytes))
+        return damaged(name);
     const QSize size = reader.size();
     if (size.isEmpty())
         return damaged(name);
@@ -123,8 +125,6 @@ Result<RasterImage> readImage(const QByteArray &bytes, const QString &name, cons
     QImageReader reader(&buffer);
     if (const Outcome header = checkHeader(reader, bytes, name, options); !header)
         return header.failure();
-    if (!hasWholePicture(bytes))
-        return damaged(name);
 
     // The size is known to be allowed. Qt's own limit, 256 MiB unless set, counts up to 8 bytes a pixel.
     QImageReader::setAllocationLimit(

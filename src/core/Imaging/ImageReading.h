@@ -23,7 +23,8 @@ struct ImageReadOptions {
 /// pixel is decoded. `name` stands for the picture in the sentence of a failure.
 Result<RasterImage> readImage(const QByteArray &bytes, const QString &name, const ImageReadOptions &options = {});
 
-/// Whether readImage could start on these bytes: a known format of a size within the limit. Decodes no pixel.
+/// Whether readImage could start on these bytes: a known format, not cut short, of a size within the limit. Decodes no
+/// pixel.
 Outcome checkImage(const QByteArray &bytes, const QString &name, const ImageReadOptions &options = {});
 
 /// The same as readImage of a file.

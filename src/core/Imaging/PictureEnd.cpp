@@ -61,6 +61,22 @@ bool isWholeBmp(ByteView file)
     return file.has(pixels, (width * bitsPerPixel + 31) / 32 * 4 * height);
 }
 
+bool isWholePng(const ByteView &file)
+{
+    qint64 at = 8;
+    while (file.has(at, 8) && file.part(at + 4, 4) != "IEND")
+        at += 12 + qint64(file.u32(at));
+    return file.has(at, 8);
+}
+
+/// The directory, which says where the pixels are, mostly comes last.
+bool isWholeTiff(ByteView file)
+{
+    file.setBigEndian(file.startsWith("MM"));
+    const qint64 directory = file.u32(4);
+    return file.has(directory, 2 + 12 * qint64(file.u16(directory)));
+}
+
 } // namespace
 
 bool hasWholePicture(QByteArrayView bytes)
@@ -72,6 +88,10 @@ bool hasWholePicture(QByteArrayView bytes)
         return isWholeGif(file);
     if (file.startsWith("BM"))
         return isWholeBmp(file);
+    if (file.startsWith("\x89PNG"))
+        return isWholePng(file);
+    if (file.startsWith({ "II*\0", 4 }) || file.startsWith({ "MM\0*", 4 }))
+        return isWholeTiff(file);
     return true;
 }
 

@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Imaging/ImageReading.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <zlib.h>
+
+using namespace tessaly;
+
+namespace {
+
+QImage gradient(QSize size = { 60, 40 })
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 4, y * 6, (x * y) % 251));
+    }
+    return image;
+}
+
+QByteArray saved(const QImage &image, const char *format)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return buffer.data();
+}
+
+QByteArray bigEndian(quint32 number)
+{
+    number = qToBigEndian(number);
+    return QByteArray(reinterpret_cast<const char *>(&number), 4);
+}
+
+QByteArray chunk(const QByteArray &type, const QByteArray &content)
+{
+    const QByteArray checked = type + content;
+    const auto sum = crc32(0, reinterpret_cast<const Bytef *>(checked.constData()), static_cast<uInt>(checked.size()));
+    return bigEndian(quint32(content.size())) + checked + bigEndian(quint32(sum));
+}
+
+/// A PNG file whose header claims a size; its data are those of a tiny picture.
+QByteArray pngClaiming(quint32 width, quint32 height)
+{
+    const QByteArray header = bigEndian(width) + bigEndian(height) + QByteArray("\x08\x02\x00\x00\x00", 5);
+    const QByteArray data = qCompress(QByteArray(4, '\0')).mid(4);
+    return "\x89PNG\r\n\x1a\n" + chunk("IHDR", header) + chunk("IDAT", data) + chunk("IEND", {});
+}
+
+/// A PNG file with a chunk put in before its pixels.
+QByteArray pngWith(const QByteArray &type, const QByteArray &content)
+{
+    QImage image = gradient();
+    QByteArray file = saved(image, "png");
+    const qsizetype old = file.indexOf("pHYs") - 4;
+    if (old > 0)
+        file.remove(old, 21);
+    return file.insert(file.indexOf("IDAT") - 4, chunk(type, content));
+}
+
+QByteArray pngOfDensity(quint32 perMetre, char unit = 1)
+{
+    return pngWith("pHYs", bigEndian(perMetre) + bigEndian(perMetre) + QByteArray(1, unit));
+}
+
+QByteArray withBytes(QByteArray file, qsizetype at, const QByteArray &bytes)
+{
+    return file.replace(at, bytes.size(), bytes);
+}
+
+QByteArray jpegOfDensity(char unit, quint16 dots)
+{
+    const char bytes[] = { unit, char(dots >> 8), char(dots), char(dots >> 8), char(dots) };
+    return withBytes(saved(gradient(), "jpg"), 13, QByteArray(bytes, 5));
+}
+
+/// An EXIF block, big-endian, in a JPEG file without a density of its own.
+QByteArray jpegWithExif(const QByteArray &entries, int count, const QByteArray &values = {})
+{
+    const QByteArray tiff = QByteArray("MM\0*\0\0\0\x08\0", 9) + char(count) + entries + QByteArray(4, '\0') + values;
+    const QByteArray content = QByteArray("Exif\0\0", 6) + tiff;
+    const QByteArray segment = QByteArray("\xff\xe1\0", 3) + char(content.size() + 2) + content;
+    return jpegOfDensity(0, 1).insert(20, segment);
+}
+
+} // namespace
+
+class ImageReadingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void badBytesGiveOneSentence_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        const QString incomplete = QStringLiteral("damaged or incomplete"), unknown = QStringLiteral("not a picture");
+        QTest::newRow("nothing") << QByteArray() << QStringLiteral("is empty");
+        QTest::newRow("text") << QByteArray("hello, world") << unknown;
+        QTest::newRow("drawing") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><text>x</text></svg>")
+                                 << unknown;
+        QTest::newRow("PNG, signature only") << saved(gradient(), "png").left(8) << incomplete;
+        QTest::newRow("PNG, 100 000 × 100 000")
+            << pngClaiming(100000, 100000) << QStringLiteral("100000 × 100000 pixels");
+        QTest::newRow("PNG, larger than its data") << pngClaiming(5000, 5000) << incomplete;
+        QByteArray flipped = saved(gradient(), "png");
+        flipped[flipped.size() / 2] = char(flipped[flipped.size() / 2] ^ 0x10);
+        QTest::newRow("PNG, all but its end") << saved(gradient(), "png").chopped(12) << incomplete;
+        QTest::newRow("PNG, one bit wrong") << flipped << incomplete;
+        for (const char *format : { "png", "jpg", "webp", "tiff", "bmp", "ppm" }) {
+            const QByteArray whole = saved(gradient(), format);
+            for (const int percent : { 50, 99 })
+                QTest::addRow("%s, %d %%", format, percent) << whole.left(whole.size() * percent / 100) << incomplete;
+        }
+        const QByteArray gif
+            = QByteArray::fromHex("47494638396102000100800000000000ffffff2c00000000020001000002024c0a003b");
+        QTest::newRow("GIF, within its data") << gif.left(31) << incomplete;
+        QTest::newRow("GIF, before its data") << gif.left(23) << incomplete;
+    }
+
+    void badBytesGiveOneSentence()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        const auto result = readImage(bytes, QStringLiteral("holiday.png"));
+        QVERIFY(!result);
+        QVERIFY2(result.failure().message.startsWith(QStringLiteral("holiday.png "))
+                && result.failure().message.contains(reason),
+            qPrintable(result.failure().message));
+    }
+
+    void checkLooksAtTheHeaderOnly()
+    {
+        const QString name = QStringLiteral("x");
+        QVERIFY(checkImage(pngClaiming(5000, 5000), name));
+        QVERIFY(!checkImage(pngClaiming(100000, 100000), name));
+        QVERIFY(!checkImage("hello", name));
+        ImageReadOptions options;
+        options.maxPixels = 60 * 40 - 1;
+        QVERIFY(!checkImage(saved(gradient(), "png"), name, options));
+        options.maxPixels = 60 * 40;
+        QVERIFY(checkImage(saved(gradient(), "png"), name, options));
+    }
+
+    void pictureOverQtsOwnLimitIsRead()
+    {
+        // 280 MiB of pixels; Qt refuses more than 256 MiB by itself.
+        QImage image(20000, 3670, QImage::Format_Mono);
+        image.fill(1);
+        const auto result = readImage(saved(image, "png"), QStringLiteral("x"));
+        QVERIFY2(result, result ? "" : qPrintable(result.failure().message));
+        QCOMPARE(result->pixelSize(), image.size());
+    }
+
+    void badPathsGiveOneSentence_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("folder") << QStringLiteral(".") << QStringLiteral("is a folder");
+        QTest::newRow("missing") << QStringLiteral("missing.png") << QStringLiteral("could not be read");
+        QTest::newRow("pipe that nobody writes to") << QStringLiteral("pipe") << QStringLiteral("is not a file");
+        QTest::newRow("device") << QStringLiteral("device") << QStringLiteral("is not a file");
+        QTest::newRow("empty") << QStringLiteral("empty.png") << QStringLiteral("is empty");
+        QTest::newRow("far too large") << QStringLiteral("huge.png") << QStringLiteral("is too large");
+    }
+
+    void badPathsGiveOneSentence()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        const QTemporaryDir folder;
+        QCOMPARE(::mkfifo(QFile::encodeName(folder.filePath(QStringLiteral("pipe"))).constData(), 0600), 0);
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), folder.filePath(QStringLiteral("device"))));
+        QFile empty(folder.filePath(QStringLiteral("empty.png"))), huge(folder.filePath(QStringLiteral("huge.png")));
+        QVERIFY(empty.open(QIODevice::WriteOnly) && huge.open(QIODevice::WriteOnly) && huge.resize(qint64(20) << 30));
+        const QString path = folder.filePath(name);
+        const auto result = readImageFile(path);
+        QVERIFY(!result);
+        QVERIFY2(result.failure().message.startsWith(path) && result.failure().message.contains(reason),
+            qPrintable(result.failure().message));
+    }
+
+    void resolutionBecomesPixelsPerPoint_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<double>("scale");
+        QTest::newRow("PNG, rounded") << pngOfDensity(5669) << 2.0;
+        QTest::newRow("PNG, cut off") << pngOfDensity(4251) << 1.5;
+        QTest::newRow("PNG, rounded up") << pngOfDensity(4252) << 1.5;
+        QTest::newRow("PNG, one too few") << pngOfDensity(5668) << 1.0;
+        QTest::newRow("PNG, 96 dpi") << pngOfDensity(3780) << 1.0;
+        QTest::newRow("PNG, a ratio only") << pngOfDensity(5669, 0) << 1.0;
+        QTest::newRow("PNG, beyond all") << pngOfDensity(0xffffffff) << 1.0;
+        QTest::newRow("PNG, no record") << pngWith("tEXt", QByteArray("a\0b", 3)) << 1.0;
+        QTest::newRow("JPEG, per inch") << jpegOfDensity(1, 126) << 1.75;
+        QTest::newRow("JPEG, per inch, one off") << jpegOfDensity(1, 127) << 1.0;
+        QTest::newRow("JPEG, per centimetre") << jpegOfDensity(2, 57) << 2.0;
+        QTest::newRow("JPEG, a ratio only") << jpegOfDensity(0, 144) << 1.0;
+        const QByteArray entries = QByteArray::fromHex("011a00050000000100000026"
+                                                       "012800030000000100020000");
+        QTest::newRow("JPEG, EXIF") << jpegWithExif(entries, 2, bigEndian(21600) + bigEndian(100)) << 3.0;
+        QTest::newRow("JPEG, EXIF divided by zero") << jpegWithExif(entries, 2, bigEndian(216) + bigEndian(0)) << 1.0;
+        QTest::newRow("JPEG, EXIF pointing outside") << jpegWithExif(entries, 2) << 1.0;
+        QImage image = gradient();
+        image.setDotsPerMeterX(7087);
+        image.setDotsPerMeterY(7087);
+        QTest::newRow("TIFF") << saved(image, "tiff") << 2.5;
+        QTest::newRow("BMP") << saved(image, "bmp") << 2.5;
+    }
+
+    void resolutionBecomesPixelsPerPoint()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(double, scale);
+        const auto result = readImage(file, QStringLiteral("x"));
+        QVERIFY2(result, result ? "" : qPrintable(result.failure().message));
+        QCOMPARE(result->pointSize, QSizeF(60, 40) / scale);
+        ImageReadOptions given;
+        given.pixelsPerPoint = 5;
+        QCOMPARE(readImage(file, QStringLiteral("x"), given)->pointSize, QSizeF(12, 8));
+    }
+
+    void turnedPictureStandsUpright()
+    {
+        const QByteArray orientation = QByteArray::fromHex("011200030000000100060000"); // turn clockwise
+        const auto result = readImage(jpegWithExif(orientation, 1), QStringLiteral("x"));
+        QVERIFY(result);
+        QCOMPARE(result->pixelSize(), QSize(40, 60));
+        QVERIFY(qRed(result->pixels.pixel(20, 58)) > qRed(result->pixels.pixel(20, 2)) + 200);
+    }
+
+    void everyKindOfPixelBecomesOneOfTwo_data()
+    {
+        QTest::addColumn<QImage::Format>("format");
+        QTest::newRow("bits") << QImage::Format_Mono;
+        QTest::newRow("grey") << QImage::Format_Grayscale8;
+        QTest::newRow("grey, 16 bits") << QImage::Format_Grayscale16;
+        QTest::newRow("palette") << QImage::Format_Indexed8;
+        QTest::newRow("16 bits") << QImage::Format_RGBX64;
+        QTest::newRow("16 bits with alpha") << QImage::Format_RGBA64;
+    }
+
+    void everyKindOfPixelBecomesOneOfTwo()
+    {
+        QFETCH(QImage::Format, format);
+        QImage image = gradient().convertToFormat(format);
+        const QColor before = image.pixelColor(30, 20);
+        const auto plain = readImage(saved(image, "png"), QStringLiteral("x"));
+        QVERIFY(plain);
+        const auto kept = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+        QCOMPARE(plain->pixels.format(), kept);
+        QCOMPARE(plain->pixels.pixelColor(30, 20).rgb(), before.rgb());
+
+        if (image.pixelFormat().colorModel() == QPixelFormat::Grayscale)
+            return; // a PNG of grey cannot carry a profile of three channels
+        image.setColorSpace(QColorSpace::SRgbLinear);
+        const auto profiled = readImage(saved(image, "png"), QStringLiteral("x"));
+        QVERIFY(profiled);
+        QCOMPARE(profiled->pixels.format(), kept);
+        const auto encoded = [](int level) { return std::pow(level / 255.0, 1 / 2.2) * 255; };
+        QVERIFY(std::abs(profiled->pixels.pixelColor(30, 20).green() - encoded(before.green())) < 6);
+    }
+};
+
+QTEST_GUILESS_MAIN(ImageReadingTest)
+#include "ImageReadingTest.moc"
