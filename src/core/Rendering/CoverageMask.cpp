@@ -59,7 +59,8 @@ private:
         if (direction < 0)
             std::swap(from, to);
         const double top = std::max(from.y(), 0.0), bottom = std::min(to.y(), double(m_clip.height()));
-        if (!(top < bottom))
+        // Too flat to cover anything; its slope might not even be a number.
+        if (!(bottom - top > 1e-9))
             return;
         const double slope = (to.x() - from.x()) / (to.y() - from.y());
         m_edges.push_back({ top, bottom, from.x() + (top - from.y()) * slope, slope, direction });

@@ -66,7 +66,8 @@ FrameShadow::FrameShadow(const QImage &content, const QPainterPath &shape, doubl
         m_middle = { m_coverage.width() / 2, m_coverage.height() / 2 };
     } else {
         // Past a corner and its blur all columns, and all rows, are alike; a corner bends over up to twice its radius.
-        const int corner = 2 * (m_spread + static_cast<int>(std::ceil(2 * cornerRadius)) + 2) + 1;
+        const double bend = std::min(2 * cornerRadius, double(std::max(content.width(), content.height())));
+        const int corner = 2 * (m_spread + static_cast<int>(std::ceil(bend)) + 2) + 1;
         const QSize kept = content.size().boundedTo({ corner, corner });
         m_coverage = ImageEffects::shapedShadow(roundedRectangle(kept, shape, content.size() - kept, m_spread), radius);
         m_middle = { m_spread + kept.width() / 2, m_spread + kept.height() / 2 };

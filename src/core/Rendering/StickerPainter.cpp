@@ -16,7 +16,11 @@ void prepareSticker(const Annotation &mark, const MarkContext &context, Prepared
     if (shape.ink.isEmpty())
         return;
     const double fontSize = filledShare * std::min(box.width() / shape.ink.width(), box.height() / shape.ink.height());
-    addText(shape, { cornerForInkCentre(shape, fontSize, box.center()), fontSize, primaryText }, context, out);
+    // Letters get a halo, which colour pictures do not need, to be seen on dark ground too.
+    addText(shape,
+        { cornerForInkCentre(shape, fontSize, box.center()), fontSize, primaryText, std::max(fontSize * 0.035, 0.75),
+            Qt::white },
+        context, out);
 }
 
 } // namespace tessaly

@@ -64,6 +64,8 @@ QStringList linesOf(QString text)
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
         .replace(u'\r', u'\n')
         .replace(QChar::LineSeparator, u'\n');
+    // The emoji font knows keycaps by the digit and the cap, without the selector between them.
+    text.replace(QStringLiteral("\uFE0F\u20E3"), QStringLiteral("\u20E3"));
     return text.replace(QChar::ParagraphSeparator, u'\n').split(u'\n').mid(0, mostLines);
 }
 

@@ -98,9 +98,14 @@ private Q_SLOTS:
 
         Annotation twin = arrow(ArrowHeadStyle::Tapered, 10);
         twin.doubleHeaded = true;
-        // Heads of 34 × 36 at both ends; the waist is 0.55 · 10.5 on either side, the shaft's ends 10.5.
-        QTest::newRow("tapered twin") << twin << Points { { 53, 66 }, { 87, 34 }, { 70, 55 }, { 55, 59.5 } }
-                                      << Points { { 70, 57 }, { 70, 43 }, { 56, 62 }, { 16, 50 } };
+        // Heads of 34 × 36 at both ends; a straight shaft has no points but its ends, so it is as wide as there.
+        QTest::newRow("tapered twin") << twin << Points { { 53, 66 }, { 87, 34 }, { 70, 59.5 } }
+                                      << Points { { 70, 62 }, { 70, 38 }, { 56, 62 }, { 16, 50 } };
+        Annotation bow = arrow(ArrowHeadStyle::Tapered, 10, { 20, 100 }, { 320, 100 });
+        bow.curved = bow.doubleHeaded = true;
+        // The curve runs level at 34 in the middle, where it is 0.55 · 10.5 wide on either side.
+        QTest::newRow("tapered bow") << bow << Points { { 170, 39 }, { 170, 29 } }
+                                     << Points { { 170, 41 }, { 170, 27 } };
         Annotation curve = arrow(ArrowHeadStyle::Filled, 4, { 20, 100 }, { 120, 100 });
         curve.curved = true;
         // The handle lies 0.22 of the length above the middle; the head follows the end of the curve.
@@ -126,7 +131,7 @@ private Q_SLOTS:
         QFETCH(Annotation, mark);
         QFETCH(QList<QPointF>, inked);
         QFETCH(QList<QPointF>, blank);
-        const QImage picture = test::drawn(test::plainCapture({ 140, 120 }, Qt::white, 4), { mark }, 4);
+        const QImage picture = test::drawn(test::plainCapture({ 340, 120 }, Qt::white, 4), { mark }, 4);
         for (const QPointF &point : std::as_const(inked))
             QVERIFY2(qGreen(picture.pixel((point * 4).toPoint())) < 40,
                 qPrintable(QString::asprintf("blank %g %g", point.x(), point.y())));
@@ -162,7 +167,7 @@ private Q_SLOTS:
 
         QTest::newRow("outline lies on its edge")
             << AnnotationKind::Rectangle << QRectF(1, 1, 6, 4) << false
-            << QStringList { "########", "########", "##....##", "##....##", "########", "########" };
+            << QStringList { "########", "########", "###..###", "###..###", "########", "########" };
         QTest::newRow("dragged from the bottom right")
             << AnnotationKind::Highlight << QRectF(7, 5, -6, -4) << false
             << QStringList { "........", ".######.", ".######.", ".######.", ".######.", "........" };
