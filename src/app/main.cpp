@@ -4,5 +4,7 @@
 
 int main(int argc, char **argv)
 {
-    return tessaly::runCommandLine(argc, argv, { .screenSource = tessaly::PlatformChoice::screenSource });
+    using namespace tessaly;
+    return runCommandLine(
+        argc, argv, { .screenSource = [] { return PlatformChoice::screenSource(CaptureUse::Once); } });
 }

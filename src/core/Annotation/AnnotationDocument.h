@@ -18,8 +18,8 @@ struct AnnotationDocument {
     static constexpr qint64 maxJsonBytes = qint64(128) * 1024 * 1024;
     static constexpr int maxAnnotations = 50'000;
 
-    /// The most JSON keys and values, above a million points of pen strokes: what a hostile text of brackets can make the
-    /// parser take stays below half a gigabyte.
+    /// The most JSON keys and values, above a million points of pen strokes: what a hostile text of brackets can make
+    /// the parser take stays below 700 MB.
     static constexpr int maxJsonValues = 8'000'000;
 
     int version = currentVersion;

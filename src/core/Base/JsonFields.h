@@ -1,149 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Base/EnumNames.h"
-#include "core/Base/Result.h"
+#include "core/Base/JsonCodec.h"
 
-#include <QJsonArray>
 #include <QJsonObject>
-#include <QJsonValue>
-#include <QLatin1StringView>
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
+#include <array>
+#include <functional>
+#include <string_view>
 #include <tuple>
 
 /// Records and their JSON by one table: each row is a key and a pointer to a member, read and written by the same row.
 namespace tessaly::json {
-
-/// How one type stands in JSON. `read` is false when the value is of another type; `write` may give an undefined
-/// value, which leaves the key out. A type that can hold what JSON cannot also has `writable`. Other types specialise
-/// it beside their declaration.
-template <class T>
-struct Codec;
-
-/// Whether JSON can hold the value: it has no word for NaN and the infinities.
-template <class T>
-bool isWritable(const T &value)
-{
-    if constexpr (requires { Codec<T>::writable(value); })
-        return Codec<T>::writable(value);
-    else
-        return true;
-}
-
-/// A value as a short piece of JSON text, for a sentence about it.
-QString excerpt(const QJsonValue &value);
-
-template <>
-struct Codec<bool> {
-    static bool read(const QJsonValue &value, bool &target)
-    {
-        target = value.toBool();
-        return value.isBool();
-    }
-    static QJsonValue write(bool value) { return value; }
-};
-
-template <>
-struct Codec<double> {
-    static bool read(const QJsonValue &value, double &target)
-    {
-        target = value.toDouble();
-        return value.isDouble();
-    }
-    static bool writable(double value) { return std::isfinite(value); }
-    static QJsonValue write(double value) { return value + 0.0; } // a negative zero becomes zero, as it would be read
-};
-
-/// Whole numbers of the type's range; 1.0 is one, 1.5 is none.
-template <>
-struct Codec<int> {
-    static bool read(const QJsonValue &value, int &target)
-    {
-        const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
-        const bool whole = std::trunc(number) == number && number >= std::numeric_limits<int>::min()
-            && number <= std::numeric_limits<int>::max();
-        target = whole ? static_cast<int>(number) : target;
-        return whole;
-    }
-    static QJsonValue write(int value) { return value; }
-};
-
-template <>
-struct Codec<QString> {
-    static bool read(const QJsonValue &value, QString &target)
-    {
-        target = value.toString();
-        return value.isString();
-    }
-    static QJsonValue write(const QString &value) { return value; }
-};
-
-/// Bytes stand as Base64 text.
-template <>
-struct Codec<QByteArray> {
-    static bool read(const QJsonValue &value, QByteArray &target)
-    {
-        auto decoded
-            = QByteArray::fromBase64Encoding(value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-        target = std::move(*decoded);
-        return value.isString() && decoded.decodingStatus == QByteArray::Base64DecodingStatus::Ok;
-    }
-    static QJsonValue write(const QByteArray &value) { return QString::fromLatin1(value.toBase64()); }
-};
-
-/// An absent value leaves its key out; `null` reads as absent.
-template <class T>
-struct Codec<std::optional<T>> {
-    static bool read(const QJsonValue &value, std::optional<T> &target)
-    {
-        target.reset();
-        return value.isNull() || Codec<T>::read(value, target.emplace());
-    }
-    static bool writable(const std::optional<T> &value) { return !value || isWritable(*value); }
-    static QJsonValue write(const std::optional<T> &value)
-    {
-        return value ? Codec<T>::write(*value) : QJsonValue(QJsonValue::Undefined);
-    }
-};
-
-template <class T>
-struct Codec<QList<T>> {
-    static bool read(const QJsonValue &value, QList<T> &target)
-    {
-        const QJsonArray array = value.toArray();
-        target.clear();
-        target.reserve(array.size());
-        for (const QJsonValue &element : array) {
-            if (!Codec<T>::read(element, target.emplace_back()))
-                return false;
-        }
-        return value.isArray();
-    }
-    static bool writable(const QList<T> &value) { return std::ranges::all_of(value, isWritable<T>); }
-    static QJsonValue write(const QList<T> &value)
-    {
-        QJsonArray array;
-        for (const T &element : value)
-            array.append(Codec<T>::write(element));
-        return array;
-    }
-};
-
-/// Enumerations stand as their raw text; an unknown text is of another type.
-template <class Enum>
-requires std::is_enum_v<Enum>
-struct Codec<Enum> {
-    static bool read(const QJsonValue &value, Enum &target)
-    {
-        const auto known = enumFromRaw<Enum>(value.toString());
-        target = known.value_or(target);
-        return value.isString() && known.has_value();
-    }
-    static QJsonValue write(Enum value) { return rawValue(value); }
-};
 
 template <class Record, class Member>
 struct Field {
@@ -153,19 +22,38 @@ struct Field {
 template <class Record, class Member>
 Field(const char *, Member Record::*) -> Field<Record, Member>;
 
+/// Whether a table names its keys in ascending order, as reading and writing need it.
+template <class... Fields>
+constexpr bool areSorted(const std::tuple<Fields...> &fields)
+{
+    return std::apply(
+        [](const auto &...field) {
+            const std::array<std::string_view, sizeof...(field)> keys { field.key... };
+            return std::ranges::adjacent_find(keys, std::ranges::greater_equal {}) == keys.end();
+        },
+        fields);
+}
+
 /// Reads every key that is present over what `record` holds; a missing key changes nothing.
-/// The result is the first key whose value is of another type, or null.
+/// The result is the first key whose value is of another type, or null. The table is sorted, as objects are: one walk
+/// over both finds every key.
 template <class Record, class... Fields>
 const char *readOver(Record &record, const QJsonObject &object, const std::tuple<Fields...> &fields)
 {
     const char *wrongKey = nullptr;
+    auto entry = object.constBegin();
+    QString key = entry == object.constEnd() ? QString() : entry.key();
+    const auto advance = [&] { key = ++entry == object.constEnd() ? QString() : entry.key(); };
     const auto readOne = [&](const auto &field) {
-        const auto found = object.constFind(QLatin1StringView(field.key));
-        if (wrongKey || found == object.constEnd())
+        const QLatin1StringView wanted(field.key);
+        while (entry != object.constEnd() && key < wanted)
+            advance();
+        if (wrongKey || entry == object.constEnd() || key != wanted)
             return;
         using Member = std::remove_reference_t<decltype(record.*field.member)>;
-        if (!Codec<Member>::read(found.value(), record.*field.member))
+        if (!Codec<Member>::read(entry.value(), record.*field.member))
             wrongKey = field.key;
+        advance();
     };
     std::apply([&](const auto &...field) { (readOne(field), ...); }, fields);
     return wrongKey;

@@ -9,8 +9,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,16 +20,17 @@ namespace {
 
 Failure failureAt(const QString &path, int error)
 {
-    const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    return { QCoreApplication::translate("SafeFile", "%1 could not be written: %2.").arg(path, reason) };
+    return {
+        QCoreApplication::translate("SafeFile", "%1 could not be written: %2.").arg(path, qt_error_string(error))
+    };
 }
 
-/// A name beside `path` that nothing else uses; hidden, so that a file manager does not flash it.
+/// A name beside `path` that nothing else uses; hidden, so that a file manager does not flash it. It does not grow with
+/// the name of `path`, which may be as long as the file system allows.
 QString temporaryBeside(const QString &path)
 {
-    const QFileInfo target(path);
     const QString token = QString::number(QRandomGenerator::system()->generate64(), 36);
-    return target.dir().filePath(QStringLiteral(".%1.%2").arg(target.fileName().left(200), token));
+    return QFileInfo(path).dir().filePath(QStringLiteral(".tessaly-") + token);
 }
 
 /// Returns 0, or the error number of the step that failed.
@@ -37,26 +38,35 @@ int flushFolder(const QString &path)
 {
     const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
-        return errno;
+        return errno == EACCES ? 0 : errno; // a folder may be written and yet not be read; it cannot be flushed then
     // Some file systems cannot flush a folder and say EINVAL; the rename is then as safe as they make it.
     const int error = ::fsync(folder) != 0 && errno != EINVAL ? errno : 0;
     ::close(folder);
     return error;
 }
 
-int writeFlushed(const QString &path, const QByteArray &bytes, mode_t mode)
+int writeAll(int file, const QByteArray &bytes)
 {
+    for (qsizetype written = 0; written < bytes.size();) {
+        const ssize_t step = ::write(file, bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
+        if (step > 0)
+            written += step;
+        else if (step == 0 || errno != EINTR)
+            return step == 0 ? EIO : errno;
+    }
+    return 0;
+}
+
+/// A new file has the permissions that the user's mask leaves, or those of the file that it is to replace.
+int writeFlushed(const QString &path, const QByteArray &bytes, std::optional<mode_t> replacedMode)
+{
+    const mode_t mode = replacedMode.value_or(0666);
     const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (file < 0)
         return errno;
-    int error = 0;
-    for (qsizetype written = 0; written < bytes.size() && error == 0;) {
-        const ssize_t step = ::write(file, bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
-        if (step >= 0)
-            written += step;
-        else if (errno != EINTR)
-            error = errno;
-    }
+    int error = writeAll(file, bytes);
+    if (error == 0 && replacedMode && ::fchmod(file, mode) != 0 && errno != EPERM && errno != ENOTSUP)
+        error = errno;
     if (error == 0 && ::fsync(file) != 0)
         error = errno;
     if (::close(file) != 0 && error == 0)
@@ -64,13 +74,23 @@ int writeFlushed(const QString &path, const QByteArray &bytes, mode_t mode)
     return error;
 }
 
-/// The permissions a new file gets: those of the one it replaces, or what the user's mask leaves.
-mode_t modeFor(const QString &path)
+/// A device or a pipe takes the bytes as they come: it must not be replaced by a file.
+int writeInto(const QString &path, const QByteArray &bytes)
 {
-    struct stat existing = {};
-    if (::stat(QFile::encodeName(path).constData(), &existing) == 0)
-        return existing.st_mode & 07777;
-    return 0666;
+    const int device = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
+    if (device < 0)
+        return errno;
+    const int error = writeAll(device, bytes);
+    return ::close(device) != 0 && error == 0 ? errno : error;
+}
+
+/// The file that writing to `path` replaces: the end of a chain of links, also where nothing stands there yet.
+QString linkTarget(const QString &path)
+{
+    QString target = path;
+    for (int links = 0; links < 40 && QFileInfo(target).isSymLink(); ++links)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
 }
 
 int renameOver(const QString &from, const QString &to)
@@ -87,7 +107,7 @@ int writeEntries(const QString &folder, const QList<Entry> &entries)
         const QString parent = QFileInfo(path).path();
         if (!QDir().mkpath(parent))
             return errno != 0 ? errno : EIO;
-        if (const int error = writeFlushed(path, bytes, 0666))
+        if (const int error = writeFlushed(path, bytes, std::nullopt))
             return error;
         if (const int error = flushFolder(parent))
             return error;
@@ -117,22 +137,39 @@ int replaceAside(const QString &fresh, const QString &path)
     return 0;
 }
 
-} // namespace
-
-Outcome write(const QString &path, const QByteArray &bytes)
+int replace(const QString &target, const QByteArray &bytes, std::optional<mode_t> mode)
 {
-    const QFileInfo info(path);
-    const QString target = info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
     const QString temporary = temporaryBeside(target);
-    int error = QFileInfo(target).isDir() ? EISDIR : writeFlushed(temporary, bytes, modeFor(target));
+    int error = writeFlushed(temporary, bytes, mode);
     if (error == 0)
         error = renameOver(temporary, target);
     if (error != 0) {
         QFile::remove(temporary);
-        return failureAt(path, error);
+        return error;
     }
-    if (const int flushError = flushFolder(QFileInfo(target).path()))
-        return failureAt(path, flushError);
+    return flushFolder(QFileInfo(target).path());
+}
+
+} // namespace
+
+Outcome write(const QString &path, const QByteArray &bytes)
+{
+    const QString target = linkTarget(path);
+    struct stat existing = {};
+    const bool exists = ::stat(QFile::encodeName(target).constData(), &existing) == 0;
+    int error = 0;
+    if (QFileInfo(target).isSymLink())
+        error = ELOOP;
+    else if (exists && S_ISDIR(existing.st_mode))
+        error = EISDIR;
+    else if (exists && ::faccessat(AT_FDCWD, QFile::encodeName(target).constData(), W_OK, AT_EACCESS) != 0)
+        error = errno; // a file that the user protects stays, although its folder would allow to replace it
+    else if (exists && !S_ISREG(existing.st_mode))
+        error = writeInto(target, bytes);
+    else
+        error = replace(target, bytes, exists ? std::optional<mode_t>(existing.st_mode & 0777) : std::nullopt);
+    if (error != 0)
+        return failureAt(path, error);
     return Done {};
 }
 

@@ -11,8 +11,10 @@
 namespace tessaly::SafeFile {
 
 /// Writes `bytes` beside `path`, flushes file and folder to the disk, and renames over `path`.
-/// A symbolic link at `path` is followed, so that the file it names is replaced. On failure `path` is as it was and
-/// nothing new lies beside it; the sentence names the path and the reason.
+/// A symbolic link at `path` is followed, so that the file it names is replaced. A file keeps its permissions, and one
+/// that may not be written fails. A device or a pipe is written to and not replaced. On failure `path` is as it was and
+/// nothing new lies beside it; the sentence names the path and the reason. Only a program that is killed leaves its
+/// unfinished file, ".tessaly-…", behind.
 Outcome write(const QString &path, const QByteArray &bytes);
 
 /// A file of a folder to be written: its path relative to the folder, and its content.

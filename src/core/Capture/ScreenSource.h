@@ -17,6 +17,9 @@ struct Display {
     bool primary = false;
 };
 
+/// Whether a source is asked once, as by a command that then ends, or again and again by a program that stays.
+enum class CaptureUse { Once, Repeated };
+
 /// Where the pixels of the screen come from.
 class ScreenSource {
 public:

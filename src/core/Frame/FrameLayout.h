@@ -19,7 +19,8 @@ struct FrameLayout {
     FrameLayout() = default;
 
     /// The canvas is the picture with the frame's margin, grown to its ratio and cut to whole pixels. Without a frame,
-    /// or for a picture without area, it is the picture alone.
+    /// or for a picture without area, it is the picture alone. A margin out of range is brought into it, so that the
+    /// canvas of a finite picture is finite.
     FrameLayout(QSizeF imageSize, const std::optional<FrameStyle> &frame, double pixelScale);
 
     struct Shadow {

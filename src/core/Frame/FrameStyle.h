@@ -37,6 +37,10 @@ struct FrameStyle {
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<FrameStyle> fromJson(const QJsonObject &object);
 
+    /// The style with its numbers in the range that can be drawn: padding 0 to 2, corner radius 0 to 100 000 points,
+    /// shadow 0 to 1. What is no number at all becomes the default.
+    FrameStyle drawable() const;
+
     bool operator==(const FrameStyle &) const = default;
 
     /// A gradient that the user can pick by name.
@@ -46,12 +50,12 @@ struct FrameStyle {
         std::array<const char *, 2> colors;
     };
     static constexpr std::array<Gradient, 6> gradients { {
-        { "pink", "Pink", { "#FF4D6D", "#D6174F" } },
-        { "sunset", "Sunset", { "#FF3366", "#FF9F0A" } },
-        { "violet", "Violet", { "#FF3366", "#5E5CE6" } },
-        { "ocean", "Ocean", { "#2E7DF6", "#30C8D6" } },
-        { "graphite", "Graphite", { "#48484A", "#1C1C1E" } },
-        { "mist", "Mist", { "#F5F5F7", "#D2D2D7" } },
+        { "pink", QT_TRANSLATE_NOOP("FrameStyle", "Pink"), { "#FF4D6D", "#D6174F" } },
+        { "sunset", QT_TRANSLATE_NOOP("FrameStyle", "Sunset"), { "#FF3366", "#FF9F0A" } },
+        { "violet", QT_TRANSLATE_NOOP("FrameStyle", "Violet"), { "#FF3366", "#5E5CE6" } },
+        { "ocean", QT_TRANSLATE_NOOP("FrameStyle", "Ocean"), { "#2E7DF6", "#30C8D6" } },
+        { "graphite", QT_TRANSLATE_NOOP("FrameStyle", "Graphite"), { "#48484A", "#1C1C1E" } },
+        { "mist", QT_TRANSLATE_NOOP("FrameStyle", "Mist"), { "#F5F5F7", "#D2D2D7" } },
     } };
     static constexpr std::array<const char *, 3> solidSwatches { "#FFFFFF", "#E5E5EA", "#1C1C1E" };
 

@@ -3,17 +3,21 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tessaly {
 
 static constexpr std::tuple fields {
-    json::Field { "kind", &Watermark::kind },
-    json::Field { "text", &Watermark::text },
-    json::Field { "imageData", &Watermark::imageData },
     json::Field { "colorHex", &Watermark::colorHex },
-    json::Field { "position", &Watermark::position },
+    json::Field { "imageData", &Watermark::imageData },
+    json::Field { "kind", &Watermark::kind },
     json::Field { "opacity", &Watermark::opacity },
+    json::Field { "position", &Watermark::position },
     json::Field { "size", &Watermark::size },
+    json::Field { "text", &Watermark::text },
 };
+static_assert(json::areSorted(fields));
 
 QPointF anchor(WatermarkPosition position)
 {
@@ -27,6 +31,15 @@ QPointF anchor(WatermarkPosition position)
 bool Watermark::isVisible() const
 {
     return kind == WatermarkKind::Text ? !QStringView(text).trimmed().isEmpty() : imageData.has_value();
+}
+
+Watermark Watermark::drawable() const
+{
+    const Watermark fresh;
+    Watermark watermark = *this;
+    watermark.opacity = std::isnan(opacity) ? fresh.opacity : std::clamp(opacity, 0.0, 1.0);
+    watermark.size = std::isnan(size) ? fresh.size : std::clamp(size, 0.0, 2.0);
+    return watermark;
 }
 
 QJsonObject Watermark::toJson() const { return json::write(*this, fields); }

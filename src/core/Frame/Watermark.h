@@ -56,6 +56,10 @@ struct Watermark {
     /// A missing key keeps its default; a value of another type fails, and the sentence names the key.
     static Result<Watermark> fromJson(const QJsonObject &object);
 
+    /// The watermark with its numbers in the range that can be drawn: opacity 0 to 1, size 0 to 2. What is no number at
+    /// all becomes the default.
+    Watermark drawable() const;
+
     bool operator==(const Watermark &) const = default;
 
     static constexpr std::array<const char *, 3> textColors { "#FFFFFF", "#1C1C1E", "#FF3366" };

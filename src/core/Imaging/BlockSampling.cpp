@@ -1,182 +1,107 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/BlockSampling.h"
 
-#include "core/Base/Parallel.h"
-#include "core/Imaging/PixelMemory.h"
+#include "core/Imaging/WideVectors.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
-#include <vector>
 
 namespace tessaly::BlockSampling {
 
 using GaussianBlur::Outside;
-using Sample = std::uint16_t;
 
 namespace {
 
-int channelsOf(const QImage &image)
+template <int lanes>
+inline __attribute__((always_inline)) void addLanes(const uchar *bytes, qsizetype step, int count, Sample *sums)
 {
-    return image.depth() / (image.depth() > 32 || image.format() == QImage::Format_Grayscale16 ? 16 : 8);
+    Sample added[lanes] = {};
+    for (int row = 0; row < count; ++row, bytes += step) {
+        for (int lane = 0; lane < lanes; ++lane)
+            added[lane] = static_cast<Sample>(added[lane] + bytes[lane]);
+    }
+    for (int lane = 0; lane < lanes; ++lane)
+        sums[lane] = static_cast<Sample>(sums[lane] + added[lane]);
 }
 
-int blocksOver(int length, int side) { return (length + side - 1) / side + 2; }
+/// Adds `count` rows of bytes that lie `step` bytes apart to sums of 16 bits, which hold 256 bytes each.
+TESSALY_WIDE_VECTORS
+void addRows(const uchar *first, qsizetype step, int count, int bytes, Sample *sums)
+{
+    constexpr int lanes = 32;
+    int index = 0;
+    for (; index + lanes <= bytes; index += lanes)
+        addLanes<lanes>(first + index, step, count, sums + index);
+    for (; index < bytes; ++index)
+        addLanes<1>(first + index, step, count, sums + index);
+}
 
-/// Sums of blocks within one row of blocks. 16 bits hold the sum of 16 × 16 bytes.
+/// Adds neighbouring pixels until one is left for each square of `side` pixels.
 template <int channels>
-class BlockRow {
-public:
-    BlockRow(int width, int side, Outside outside) :
-        m_width(width),
-        m_side(side),
-        m_outside(outside),
-        m_count(blocksOver(width, side)),
-        m_sums(std::size_t(m_count) * side * channels)
-    {
-    }
-
-    void clear() { std::fill(m_sums.begin(), m_sums.end(), Sample(0)); }
-
-    void add(const uchar *row)
-    {
-        Sample *sums = m_sums.data() + m_side * channels;
-        const int count = m_width * channels;
-        for (int index = 0; index < count; ++index)
-            sums[index] = static_cast<Sample>(sums[index] + row[index]);
-    }
-
-    /// Writes the means of the blocks; the sums are used up.
-    void finish(Sample *means)
-    {
-        if (m_outside == Outside::Edge)
-            continueEdges();
-        int count = m_count * m_side;
-        for (int side = m_side; side > 1; side /= 2)
-            addNeighbours(count /= 2);
-        const auto scale = static_cast<Sample>(256 / (m_side * m_side));
-        for (int index = 0; index < m_count * channels; ++index)
-            means[index] = static_cast<Sample>(m_sums[index] * scale);
-    }
-
-private:
-    void continueEdges()
-    {
-        const auto copy = [this](int from, int to) {
-            std::copy_n(m_sums.begin() + from * channels, channels, m_sums.begin() + to * channels);
-        };
-        for (int pixel = 0; pixel < m_side; ++pixel)
-            copy(m_side, pixel);
-        for (int pixel = m_side + m_width; pixel < m_count * m_side; ++pixel)
-            copy(m_side + m_width - 1, pixel);
-    }
-
-    void addNeighbours(int count)
-    {
-        // A pixel's channels are added as one word: no sum carries into the next channel.
-        using Word = std::conditional_t<channels == 4, std::uint64_t, std::uint16_t>;
-        Sample *sums = m_sums.data();
-        for (int index = 0; index < count; ++index) {
+void addNeighbours(Sample *sums, int squares, int side)
+{
+    // A pixel's channels are added as one word: no sum carries into the next channel.
+    using Word = std::conditional_t<channels == 4, std::uint64_t, std::uint16_t>;
+    for (int left = side / 2; left > 0; left /= 2) {
+        for (int index = 0; index < squares * left; ++index) {
             Word pair[2];
             std::memcpy(pair, sums + 2 * index * channels, sizeof pair);
             const auto sum = static_cast<Word>(pair[0] + pair[1]);
             std::memcpy(sums + index * channels, &sum, sizeof sum);
         }
     }
+}
 
-    int m_width, m_side;
-    Outside m_outside;
-    int m_count;
-    std::vector<Sample> m_sums;
-};
-
-template <int channels>
-void shrinkRows(const QImage &image, int side, Outside outside, QImage &samples, int first, int end)
+/// `above` and `below` mixed by weights that add up to 65 536, or one less.
+inline __attribute__((always_inline)) Sample mixed(Sample above, Sample below, Sample aboveWeight, Sample belowWeight)
 {
-    BlockRow<channels> blocks(image.width(), side, outside);
-    for (int block = first; block < end; ++block) {
-        blocks.clear();
-        for (int offset = 0; offset < side; ++offset) {
-            const int y = (block - 1) * side + offset, inside = std::clamp(y, 0, image.height() - 1);
-            if (outside == Outside::Edge || y == inside)
-                blocks.add(image.constScanLine(inside));
-        }
-        blocks.finish(reinterpret_cast<Sample *>(samples.bits() + block * samples.bytesPerLine()));
+    return static_cast<Sample>(static_cast<Sample>(std::uint32_t(above) * aboveWeight >> 16)
+        + static_cast<Sample>(std::uint32_t(below) * belowWeight >> 16));
+}
+
+TESSALY_WIDE_VECTORS
+void mixNeighbours(const Sample *first, const Sample *second, Sample firstWeight, Sample secondWeight, int count,
+    Sample *__restrict out)
+{
+    for (int index = 0; index < count; ++index)
+        out[index] = mixed(first[index], second[index], firstWeight, secondWeight);
+}
+
+TESSALY_WIDE_VECTORS
+void mixToBytes(const Sample *first, const Sample *second, Sample firstWeight, Sample secondWeight, int count,
+    uchar *__restrict out)
+{
+    for (int index = 0; index < count; ++index) {
+        const Sample sample = mixed(first[index], second[index], firstWeight, secondWeight);
+        out[index] = static_cast<uchar>(static_cast<Sample>(sample + 128) >> 8);
     }
 }
 
-/// Draws pixels between samples: `position` counts half pixels from the middle of sample 0.
+/// A pixel row between the middles of two rows of blocks, of which the first is named.
 struct Between {
-    Between(int pixel, int side) : first((2 * pixel + 1 + side) / (2 * side)), part((2 * pixel + 1 + side) % (2 * side))
+    Between(int pixel, int side) :
+        first((2 * pixel + 1 + side) / (2 * side)),
+        secondWeight(static_cast<Sample>((2 * pixel + 1 + side) % (2 * side) * (32768 / side))),
+        firstWeight(static_cast<Sample>(std::min(65536 - secondWeight, 65535)))
     {
     }
 
-    int first; ///< the sample before; the one after is the next
-    int part; ///< of 2 · side parts of the way
+    int first;
+    Sample secondWeight, firstWeight;
 };
 
-/// One row between two rows of samples, with 3 bits after the point.
-void mixRows(const Sample *above, const Sample *below, int part, int side, int count, Sample *row)
-{
-    const std::uint32_t belowWeight = 65536 / (2 * side) * part, aboveWeight = 65536 - belowWeight;
-    for (int index = 0; index < count; ++index) {
-        const std::uint32_t mixed = (above[index] * aboveWeight >> 16) + (below[index] * belowWeight >> 16);
-        row[index] = static_cast<Sample>((mixed + 16) >> 5);
-    }
-}
-
-/// Widens a row of samples to `side` pixels for each interval between two of them; 8 bits after the point.
-template <int channels, int side>
-void widenRow(const Sample *row, int intervals, Sample *wide)
-{
-    for (int interval = 0; interval < intervals; ++interval, row += channels, wide += side * channels) {
-        for (int pixel = 0; pixel < side; ++pixel) {
-            const int after = (2 * pixel + 1) * (16 / side), before = 32 - after;
-            for (int channel = 0; channel < channels; ++channel)
-                wide[pixel * channels + channel]
-                    = static_cast<Sample>(row[channel] * before + row[channel + channels] * after + 128);
-        }
-    }
-}
-
-void narrow(const Sample *wide, int count, uchar *out)
-{
-    for (int index = 0; index < count; ++index)
-        out[index] = static_cast<uchar>(wide[index] >> 8);
-}
-
-template <int channels, int side>
-void enlargeRows(const QImage &samples, uchar *out, qsizetype bytesPerLine, int width, int first, int end)
-{
-    const int count = samples.width() * channels;
-    std::vector<Sample> row(count), wide(std::size_t(count) * side);
-    for (int y = first; y < end; ++y) {
-        const Between place(y, side);
-        mixRows(reinterpret_cast<const Sample *>(samples.constScanLine(place.first)),
-            reinterpret_cast<const Sample *>(samples.constScanLine(place.first + 1)), place.part, side, count,
-            row.data());
-        widenRow<channels, side>(row.data(), samples.width() - 1, wide.data());
-        narrow(wide.data() + side / 2 * channels, width * channels, out + y * bytesPerLine);
-    }
-}
-
-/// Blocks of one pixel: only the border and the bits after the point go.
+/// Widens a row of means to `side` pixels for each interval between the middles of two blocks.
 template <int channels>
-void roundRows(const QImage &samples, uchar *out, qsizetype bytesPerLine, int width, int first, int end)
+void widen(const Sample *row, int intervals, int side, Sample *mixing, Sample *wide)
 {
-    for (int y = first; y < end; ++y) {
-        const auto *row = reinterpret_cast<const Sample *>(samples.constScanLine(y + 1)) + channels;
-        for (int index = 0; index < width * channels; ++index)
-            out[y * bytesPerLine + index] = static_cast<uchar>((row[index] + 128) >> 8);
+    for (int pixel = 0; pixel < side; ++pixel) {
+        const Between place(pixel + side / 2, side);
+        mixNeighbours(row, row + channels, place.firstWeight, place.secondWeight, intervals * channels, mixing);
+        Sample *to = wide + pixel * channels;
+        const int step = side * channels;
+        for (int index = 0; index < intervals; ++index)
+            std::memcpy(to + index * step, mixing + index * channels, channels * sizeof(Sample));
     }
-}
-
-template <int channels>
-auto enlargerFor(int side)
-{
-    constexpr decltype(&roundRows<channels>) bySide[] = { roundRows<channels>, enlargeRows<channels, 2>,
-        enlargeRows<channels, 4>, enlargeRows<channels, 8>, enlargeRows<channels, 16> };
-    return bySide[std::countr_zero(static_cast<unsigned>(side))];
 }
 
 } // namespace
@@ -184,33 +109,95 @@ auto enlargerFor(int side)
 double variance(int blockSide)
 {
     // A mean over the block and, on the way back, a triangle twice as wide.
-    const double square = blockSide * blockSide;
+    const double square = double(blockSide) * blockSide;
     return blockSide == 1 ? 0 : (square - 1) / 12 + square / 6;
 }
 
-QImage shrunk(const QImage &image, int blockSide, Outside outside, int threads)
+Shrinker::Shrinker(const QImage &image, const Grid &grid, Outside outside) :
+    m_image(image),
+    m_grid(grid),
+    m_outside(outside),
+    m_partSide(std::min(grid.side, 16)),
+    m_sums(std::size_t(grid.columns()) * grid.side * grid.channels),
+    m_totals(std::size_t(grid.columns()) * grid.channels)
 {
-    const int channels = channelsOf(image);
-    const QSize size(blocksOver(image.width(), blockSide), blocksOver(image.height(), blockSide));
-    QImage samples = PixelMemory::allocate(size, channels == 4 ? QImage::Format_RGBA64 : QImage::Format_Grayscale16);
-    if (samples.isNull())
-        return {};
-    const auto shrink = channels == 4 ? shrinkRows<4> : shrinkRows<1>;
-    Parallel::inBands(size.height(), 4 * threads, threads,
-        [&](int first, int end) { shrink(image, blockSide, outside, samples, first, end); });
-    return samples;
 }
 
-QImage enlarged(const QImage &samples, int blockSide, QSize size, QImage::Format format, int threads)
+/// The sums of `height` rows, at most `m_partSide`, over the pixel columns `from` to before `to`.
+void Shrinker::sumRows(int top, int height, int from, int to, Sample *sums) const
 {
-    QImage out = PixelMemory::allocate(size, format);
-    if (out.isNull() || samples.isNull())
-        return {};
-    const auto enlarge = channelsOf(samples) == 4 ? enlargerFor<4>(blockSide) : enlargerFor<1>(blockSide);
-    uchar *bits = out.bits();
-    Parallel::inBands(size.height(), 4 * threads, threads,
-        [&](int first, int end) { enlarge(samples, bits, out.bytesPerLine(), size.width(), first, end); });
-    return out;
+    const int bottom = top + height, end = m_image.height(), bytes = (to - from) * m_grid.channels;
+    std::fill_n(sums, bytes, Sample(0));
+    const auto add = [&](int y, qsizetype step, int count) {
+        if (count > 0)
+            addRows(m_image.constScanLine(y) + qsizetype(from) * m_grid.channels, step, count, bytes, sums);
+    };
+    if (m_outside == Outside::Edge) {
+        add(0, 0, std::min(bottom, 0) - top);
+        add(end - 1, 0, bottom - std::max(top, end));
+    }
+    const int firstInside = std::clamp(top, 0, end - 1);
+    add(firstInside, m_image.bytesPerLine(), std::min(bottom, end) - std::max(top, 0));
+}
+
+/// The same over the whole width with the border's blocks.
+void Shrinker::sumAcross(int top, int height)
+{
+    const int width = m_image.width(), channels = m_grid.channels;
+    const auto begin = m_sums.begin() + m_grid.side * channels, end = begin + width * channels;
+    sumRows(top, height, 0, width, &*begin);
+    const bool zero = m_outside == Outside::Nothing;
+    for (auto pixel = m_sums.begin(); pixel < begin; pixel += channels)
+        zero ? std::fill_n(pixel, channels, Sample(0)) : std::copy_n(begin, channels, pixel);
+    for (auto pixel = end; pixel < m_sums.end(); pixel += channels)
+        zero ? std::fill_n(pixel, channels, Sample(0)) : std::copy_n(end - channels, channels, pixel);
+}
+
+void Shrinker::shrinkRow(int row, Sample *means)
+{
+    const int channels = m_grid.channels, columns = m_grid.columns(), parts = m_grid.side / m_partSide;
+    const auto addPixels = channels == 4 ? addNeighbours<4> : addNeighbours<1>;
+    const int scale = 256 / (m_partSide * m_partSide), top = (row - 1) * m_grid.side;
+    if (parts == 1) {
+        sumAcross(top, m_partSide);
+        addPixels(m_sums.data(), columns, m_partSide);
+        for (std::size_t index = 0; index < m_totals.size(); ++index)
+            means[index] = static_cast<Sample>(m_sums[index] * scale);
+        return;
+    }
+    std::fill(m_totals.begin(), m_totals.end(), 0);
+    for (int part = 0; part < parts; ++part) {
+        sumAcross(top + part * m_partSide, m_partSide);
+        addPixels(m_sums.data(), columns * parts, m_partSide);
+        const Sample *sum = m_sums.data();
+        for (int column = 0; column < columns * parts; ++column) {
+            for (int channel = 0; channel < channels; ++channel)
+                m_totals[column / parts * channels + channel] += *sum++;
+        }
+    }
+    for (std::size_t index = 0; index < m_totals.size(); ++index)
+        means[index] = static_cast<Sample>(m_totals[index] / (parts * parts));
+}
+
+void enlarge(const Grid &grid, int first, int end, const std::function<void(int, Sample *)> &readRow, uchar *bits,
+    qsizetype bytesPerLine)
+{
+    const int columns = grid.columns(), channels = grid.channels, intervals = columns - 1;
+    const int count = grid.pixelSize.width() * channels, margin = (grid.side - grid.side / 2) * channels;
+    std::vector<Sample> row(std::size_t(columns) * channels), mixing(row.size());
+    std::vector<Sample> above(std::size_t(intervals) * grid.side * channels), below(above.size());
+    const auto widenRow = channels == 4 ? widen<4> : widen<1>;
+    int widened = Between(first, grid.side).first - 1;
+    for (int y = first; y < end; ++y) {
+        const Between place(y, grid.side);
+        for (; widened <= place.first; ++widened) {
+            above.swap(below);
+            readRow(widened + 1, row.data());
+            widenRow(row.data(), intervals, grid.side, mixing.data(), below.data());
+        }
+        mixToBytes(above.data() + margin, below.data() + margin, place.firstWeight, place.secondWeight, count,
+            bits + y * bytesPerLine);
+    }
 }
 
 } // namespace tessaly::BlockSampling

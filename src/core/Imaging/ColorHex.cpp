@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/ColorHex.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace tessaly::ColorHex {
 
@@ -38,7 +38,7 @@ QColor toColor(QStringView text)
 QString toHex(const QColor &color)
 {
     const QColor rgb = color.toRgb();
-    const auto channel = [](float component) { return static_cast<int>(std::lround(component * 255)); };
+    const auto channel = [](float component) { return std::clamp(qRound(component * 255), 0, 255); };
     return QString::asprintf("#%02X%02X%02X", channel(rgb.redF()), channel(rgb.greenF()), channel(rgb.blueF()));
 }
 

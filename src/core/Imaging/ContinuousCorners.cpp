@@ -32,7 +32,7 @@ CornerArc unitArc()
     const auto height = [](double x) { return std::pow(1 - std::pow(x, exponent), 1 / exponent); };
     const auto towards = [&](double x, double dx) {
         const double slope = -std::pow(x / height(x), exponent - 1);
-        return QPointF(x + dx, height(x) + slope * dx);
+        return QPointF(x + dx, std::min(height(x) + slope * dx, 1.0)); // never beyond the side
     };
     CornerArc arc;
     for (int index = 0; index < segmentsPerHalf; ++index) {

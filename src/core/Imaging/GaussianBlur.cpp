@@ -1,40 +1,169 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/GaussianBlur.h"
 
+#include "core/Base/Parallel.h"
 #include "core/Imaging/BlockSampling.h"
-#include "core/Imaging/BoxBlur.h"
+#include "core/Imaging/PixelMemory.h"
+#include "core/Imaging/WideVectors.h"
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace tessaly::GaussianBlur {
 
+using BlockSampling::Grid;
+using BlockSampling::Sample;
+
 namespace {
 
-/// Every side is then far shorter than the radius; it bounds what a row of boxes reads beyond the borders.
-constexpr double largestRadius = 65536;
+/// 16 of the largest blocks; most pictures' sides are far shorter.
+constexpr double largestRadius = 16.0 * BlockSampling::maxBlockSide;
 
-/// The largest side of the blocks, a power of two, that still leaves the blocks' own softness small beside the radius.
-int blockSideFor(double radius)
+/// The largest blocks that still leave the straight lines between them close to the Gaussian.
+int blockSideFor(double radius, QSize size, Precision precision)
 {
+    const double blocksPerRadius = precision == Precision::Picture ? 3 : 1.5;
+    const int enough = std::min(BlockSampling::maxBlockSide, std::max(size.width(), size.height()));
     int side = 1;
-    while (side < BlockSampling::maxBlockSide && 2 * side * BlockSampling::blocksPerRadius <= radius)
+    while (side < enough && 2 * side * blocksPerRadius <= radius)
         side *= 2;
     return side;
 }
 
+/// The weights of a Gaussian, 65 536 together. Its radius is in blocks.
+std::vector<Sample> weightsFor(double radius)
+{
+    constexpr double reach = 3.3; // beyond it there is less than a thousandth
+    constexpr double largest = 16; // only where a whole picture is a block or two, and all but even
+    radius = std::min(radius, largest);
+    const int last = std::max(static_cast<int>(std::ceil(reach * radius)), 1);
+    std::vector<double> shares;
+    double sum = 0;
+    for (int place = -last; place <= last; ++place)
+        sum += shares.emplace_back(std::exp(-place * place / (2 * radius * radius)));
+    std::vector<Sample> weights;
+    double before = 0;
+    for (const double share : shares) {
+        // The rounding of one is made good by the next.
+        const double upTo = before + share;
+        const double weight = std::round(upTo / sum * 65536) - std::round(before / sum * 65536);
+        weights.push_back(static_cast<Sample>(std::min(weight, 65535.0)));
+        before = upTo;
+    }
+    return weights;
+}
+
+TESSALY_WIDE_VECTORS
+void addWeighted(const Sample *__restrict samples, Sample weight, qsizetype count, Sample *__restrict sums)
+{
+    for (qsizetype index = 0; index < count; ++index)
+        sums[index]
+            = static_cast<Sample>(sums[index] + static_cast<Sample>(std::uint32_t(samples[index]) * weight >> 16));
+}
+
+/// The weighted sum of rows of samples. Integers throughout: no order of working can change a bit, and no colour comes
+/// to exceed its alpha.
+void sumRows(const std::vector<const Sample *> &rows, const std::vector<Sample> &weights, qsizetype count, Sample *sums)
+{
+    // Each product loses half a bit on average.
+    std::fill_n(sums, count, static_cast<Sample>(rows.size() / 2));
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        addWeighted(rows[row], weights[row], count, sums);
+}
+
+/// The blocks of one picture, softened across and then, as they are asked for, down.
+class SoftBlocks {
+public:
+    SoftBlocks(const QImage &image, const Grid &grid, Outside outside, std::vector<Sample> weights) :
+        m_image(image),
+        m_grid(grid),
+        m_outside(outside),
+        m_weights(std::move(weights)),
+        m_reach(static_cast<int>(m_weights.size() / 2)),
+        m_rowSamples(qsizetype(grid.columns()) * grid.channels),
+        m_memory(PixelMemory::allocate(
+            { grid.columns(), grid.rows() }, grid.channels == 4 ? QImage::Format_RGBA64 : QImage::Format_Grayscale16)),
+        m_samples(m_memory.bits()),
+        m_nothing(m_rowSamples)
+    {
+    }
+
+    bool isNull() const { return m_memory.isNull(); }
+
+    /// Shrinks and softens the rows `first` to before `end` across.
+    void prepareRows(int first, int end)
+    {
+        BlockSampling::Shrinker shrinker(m_image, m_grid, m_outside);
+        const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
+        std::vector<Sample> padded(m_rowSamples + 2 * margin);
+        std::vector<const Sample *> places;
+        for (std::size_t place = 0; place < m_weights.size(); ++place)
+            places.push_back(padded.data() + place * m_grid.channels);
+        for (int row = first; row < end; ++row) {
+            shrinker.shrinkRow(row, padded.data() + margin);
+            if (m_outside == Outside::Edge)
+                continueEdges(padded, margin);
+            sumRows(places, m_weights, m_rowSamples, rowAt(row));
+        }
+    }
+
+    /// A row softened both ways.
+    void read(int row, Sample *out) const
+    {
+        std::vector<const Sample *> rows;
+        for (int place = row - m_reach; place <= row + m_reach; ++place) {
+            const int inside = std::clamp(place, 0, m_grid.rows() - 1);
+            rows.push_back(place == inside || m_outside == Outside::Edge ? rowAt(inside) : m_nothing.data());
+        }
+        sumRows(rows, m_weights, m_rowSamples, out);
+    }
+
+private:
+    Sample *rowAt(int row) const { return reinterpret_cast<Sample *>(m_samples + row * m_memory.bytesPerLine()); }
+
+    void continueEdges(std::vector<Sample> &padded, qsizetype margin) const
+    {
+        const int channels = m_grid.channels;
+        const auto first = padded.begin() + margin, last = padded.end() - margin - channels;
+        for (qsizetype offset = 0; offset < margin; offset += channels) {
+            std::copy_n(first, channels, padded.begin() + offset);
+            std::copy_n(last, channels, last + channels + offset);
+        }
+    }
+
+    const QImage &m_image;
+    const Grid &m_grid;
+    Outside m_outside;
+    std::vector<Sample> m_weights;
+    int m_reach;
+    qsizetype m_rowSamples;
+    QImage m_memory;
+    uchar *m_samples;
+    std::vector<Sample> m_nothing;
+};
+
 } // namespace
 
-QImage blurred(const QImage &image, double pixelRadius, Outside outside, int threads)
+QImage blurred(const QImage &image, double pixelRadius, Outside outside, Precision precision, int threads)
 {
     if (image.isNull() || !(pixelRadius > 0))
         return image;
     const double radius = std::min(pixelRadius, largestRadius);
-    const int side = blockSideFor(radius);
-    const double variance = (radius * radius - BlockSampling::variance(side)) / (side * side);
-    QImage samples = BlockSampling::shrunk(image, side, outside, threads);
-    samples = BoxBlur::columnsBlurred(samples, variance, outside, threads); // comes back transposed
-    samples = BoxBlur::columnsBlurred(samples, variance, outside, threads);
-    return BlockSampling::enlarged(samples, side, image.size(), image.format(), threads);
+    const Grid grid { image.size(), blockSideFor(radius, image.size(), precision), image.depth() / 8 };
+    const double own = BlockSampling::variance(grid.side);
+    SoftBlocks blocks(image, grid, outside, weightsFor(std::sqrt(radius * radius - own) / grid.side));
+    QImage out = PixelMemory::allocate(image.size(), image.format());
+    if (blocks.isNull() || out.isNull())
+        return {};
+
+    // Two rounds and no more: starting a thread costs as much as 50 000 pixels.
+    Parallel::inBands(grid.rows(), threads, threads, [&](int first, int end) { blocks.prepareRows(first, end); });
+    uchar *bits = out.bits();
+    const auto readRow = [&blocks](int row, Sample *samples) { blocks.read(row, samples); };
+    Parallel::inBands(image.height(), threads, threads,
+        [&](int first, int end) { BlockSampling::enlarge(grid, first, end, readRow, bits, out.bytesPerLine()); });
+    return out;
 }
 
 } // namespace tessaly::GaussianBlur

@@ -11,9 +11,14 @@ enum class Outside {
     Nothing, ///< zero in every channel
 };
 
-/// The picture (4 bytes a pixel, or 1) softened by a Gaussian of standard deviation `pixelRadius`, within about one
-/// level. A radius that is not positive changes nothing. Null without the memory: about the picture's size again for
-/// radii from 6 pixels, four times that below.
-QImage blurred(const QImage &image, double pixelRadius, Outside outside, int threads);
+/// How close to the Gaussian a blur is, at the hardest edges.
+enum class Precision {
+    Picture, ///< two levels
+    Hiding, ///< seven levels, where nothing is to be seen anyway
+};
+
+/// The picture (4 bytes a pixel, or 1) softened by a Gaussian of standard deviation `pixelRadius`. A radius that is not
+/// positive changes nothing. Null without the memory: the picture's own and, for small radii, twice as much beside it.
+QImage blurred(const QImage &image, double pixelRadius, Outside outside, Precision precision, int threads);
 
 } // namespace tessaly::GaussianBlur

@@ -87,25 +87,27 @@ QImage obscuringBlur(const QImage &region, double strength)
     if (region.isNull())
         return {};
     const double side = std::min(region.width(), region.height());
-    return onGrey(gaussianBlur(region, std::max(usableStrength(strength) * side * radiusPerSide, smallestRadius)));
+    const double radius = std::max(usableStrength(strength) * side * radiusPerSide, smallestRadius);
+    return onGrey(GaussianBlur::blurred(inKnownFormat(region), radius, GaussianBlur::Outside::Edge,
+        GaussianBlur::Precision::Hiding, threadsFor(region.size())));
 }
 
 QImage gaussianBlur(const QImage &image, double pixelRadius)
 {
-    return GaussianBlur::blurred(
-        inKnownFormat(image), pixelRadius, GaussianBlur::Outside::Edge, threadsFor(image.size()));
+    return GaussianBlur::blurred(inKnownFormat(image), pixelRadius, GaussianBlur::Outside::Edge,
+        GaussianBlur::Precision::Picture, threadsFor(image.size()));
 }
 
 QImage rectangleShadow(QSize pixelSize, const QRectF &pixelRect, double pixelRadius)
 {
-    return RectangleShadow::coverage(pixelSize, pixelRect, pixelRadius, threadsFor(pixelSize));
+    return RectangleShadow::coverage(pixelSize, pixelRect, pixelRadius);
 }
 
 QImage shapedShadow(const QImage &coverage, double pixelRadius)
 {
     const bool known = coverage.format() == QImage::Format_Grayscale8 || coverage.format() == QImage::Format_Alpha8;
     return GaussianBlur::blurred(known ? coverage : coverage.convertToFormat(QImage::Format_Alpha8), pixelRadius,
-        GaussianBlur::Outside::Nothing, threadsFor(coverage.size()));
+        GaussianBlur::Outside::Nothing, GaussianBlur::Precision::Picture, threadsFor(coverage.size()));
 }
 
 } // namespace tessaly::ImageEffects

@@ -6,7 +6,8 @@
 #include <QPoint>
 #include <QRect>
 
-/// The effects that hide or soften a part of a picture. Regions and radii are in pixels.
+/// The effects that hide or soften a part of a picture. Regions and radii are in pixels; a radius is the standard
+/// deviation of a Gaussian. Strengths, radii and rectangles may be any number, infinite or none at all.
 namespace tessaly::ImageEffects {
 
 /// Where the noise pattern of pixelated areas starts; chosen once a run so that the noise cannot be subtracted.
@@ -21,13 +22,16 @@ struct NoiseSeed {
 double pixelCellSide(QSize pixelRegion, double strength, double pixelsPerPoint);
 
 /// The region softened, split into square cells about its centre, each cell one colour with grey noise over it.
-/// Null when the region is empty. Reads no pixel outside the region.
+/// Opaque (Format_RGB32), so that nothing shows through where it is drawn over what it hides. Null when the region is
+/// empty. Reads no pixel outside the region.
 QImage pixelated(const QImage &region, double strength, double pixelsPerPoint, NoiseSeed seed);
 
-/// The region blurred beyond reading; edges are clamped. Null when the region is empty.
+/// The region blurred with clamped edges; where it was translucent it lies on a middle grey. Opaque like the cells.
+/// Null when the region is empty.
 QImage obscuringBlur(const QImage &region, double strength);
 
-/// A Gaussian-like blur of any radius (in pixels, the Gaussian's standard deviation) with clamped edges.
+/// The Gaussian blur within two levels, with clamped edges. The picture keeps its format, as Format_RGB32 or
+/// Format_ARGB32_Premultiplied.
 QImage gaussianBlur(const QImage &image, double pixelRadius);
 
 /// The 8-bit coverage (Format_Grayscale8 sized like the request) of a rectangle's shadow: `pixelRect` blurred by

@@ -16,49 +16,56 @@ namespace {
 /// The colour of a cell: its mean with the noise over it. The noise is opaque, so it fills what the mean lets through.
 QRgb colorOf(const CellMean &mean, bool opaque, float noise)
 {
-    const float alpha = opaque ? 1 : mean[3] / 255;
+    const float alpha = opaque ? 1 : mean[3] / 255, scale = alpha > 0 ? 1 / (255 * alpha) : 0;
     const auto component = [&](float premultiplied) {
-        const float below = alpha > 0 ? std::clamp(premultiplied / (255 * alpha), 0.0f, 1.0f) : 0;
+        const float below = std::min(premultiplied * scale, 1.0f);
         const float above = noise * (1 - alpha) + CellNoise::softLight(below, noise) * alpha;
         return static_cast<int>(above * 255 + 0.5f);
     };
     return qRgb(component(mean[2]), component(mean[1]), component(mean[0]));
 }
 
-class Painter {
+class CellPainter {
 public:
-    Painter(const CellAxis &columns, const CellAxis &rows, std::vector<QRgb> colors, QImage &out) :
-        m_columns(columns),
-        m_rows(rows),
-        m_colors(std::move(colors)),
+    CellPainter(const QImage &region, double side, ImageEffects::NoiseSeed seed, QImage &out) :
+        m_columns(region.width(), side),
+        m_rows(region.height(), side),
+        m_averager(region, m_columns, m_rows),
+        m_opaque(!region.hasAlphaChannel()),
+        m_seed(seed),
         m_bits(out.bits()),
         m_bytesPerLine(out.bytesPerLine())
     {
     }
 
-    /// Fills the rows of cells from `first` to before `end`: the first pixel row of each, then copies of it.
-    void fill(int first, int end) const
+    CellPainter(const CellPainter &) = delete; // the averager refers to the axes
+    CellPainter &operator=(const CellPainter &) = delete;
+
+    int rowCount() const { return m_rows.count(); }
+
+    /// Fills a row of cells: its first row of pixels, then copies of it.
+    void paintRow(int cellRow) const
     {
-        for (int cellRow = first; cellRow < end; ++cellRow) {
-            const int top = m_rows.startInside(cellRow), bottom = m_rows.startInside(cellRow + 1);
-            if (top == bottom)
-                continue;
-            uchar *row = m_bits + top * m_bytesPerLine;
-            fillRow(reinterpret_cast<QRgb *>(row), m_colors.data() + qsizetype(cellRow) * m_columns.count());
-            for (int y = top + 1; y < bottom; ++y)
-                std::memcpy(m_bits + y * m_bytesPerLine, row, std::size_t(m_columns.length()) * sizeof(QRgb));
+        const int top = m_rows.start(cellRow), bottom = m_rows.start(cellRow + 1);
+        if (top == bottom)
+            return;
+        uchar *first = m_bits + top * m_bytesPerLine;
+        auto *pixels = reinterpret_cast<QRgb *>(first);
+        const std::vector<CellMean> means = m_averager.row(cellRow);
+        for (int cell = 0; cell < m_columns.count(); ++cell) {
+            const float noise = CellNoise::grey(m_seed.value, m_columns.fromMiddle(cell), m_rows.fromMiddle(cellRow));
+            std::fill(pixels + m_columns.start(cell), pixels + m_columns.start(cell + 1),
+                colorOf(means[cell], m_opaque, noise));
         }
+        for (int y = top + 1; y < bottom; ++y)
+            std::memcpy(m_bits + y * m_bytesPerLine, first, std::size_t(m_columns.length()) * sizeof(QRgb));
     }
 
 private:
-    void fillRow(QRgb *row, const QRgb *colors) const
-    {
-        for (int cell = 0; cell < m_columns.count(); ++cell)
-            std::fill(row + m_columns.startInside(cell), row + m_columns.startInside(cell + 1), colors[cell]);
-    }
-
-    const CellAxis &m_columns, &m_rows;
-    std::vector<QRgb> m_colors;
+    CellAxis m_columns, m_rows;
+    CellAverager m_averager;
+    bool m_opaque;
+    ImageEffects::NoiseSeed m_seed;
     uchar *m_bits;
     qsizetype m_bytesPerLine;
 };
@@ -71,20 +78,8 @@ QImage pixelated(const QImage &region, double cellSide, ImageEffects::NoiseSeed 
     QImage out = PixelMemory::allocate(region.size(), QImage::Format_RGB32);
     if (out.isNull())
         return {};
-    const double side = std::min(cellSide, CellAxis::maxSide);
-    const CellAxis columns(region.width(), side), rows(region.height(), side);
-    const std::vector<CellMean> means = cellMeans(region, columns, rows, threads);
-    const bool opaque = !region.hasAlphaChannel();
-    std::vector<QRgb> colors(means.size());
-    for (int row = 0; row < rows.count(); ++row) {
-        for (int column = 0; column < columns.count(); ++column) {
-            const std::size_t index = std::size_t(row) * columns.count() + column;
-            const float noise = CellNoise::grey(seed.value, columns.fromMiddle(column), rows.fromMiddle(row));
-            colors[index] = colorOf(means[index], opaque, noise);
-        }
-    }
-    const Painter painter(columns, rows, std::move(colors), out);
-    Parallel::inBands(rows.count(), 4 * threads, threads, [&](int first, int end) { painter.fill(first, end); });
+    const CellPainter painter(region, std::min(cellSide, CellAxis::maxSide), seed, out);
+    Parallel::forEach(painter.rowCount(), threads, [&](int row) { painter.paintRow(row); });
     return out;
 }
 

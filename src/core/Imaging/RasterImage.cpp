@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tessaly {
 
@@ -16,7 +17,8 @@ RasterImage RasterImage::fromPixels(QImage pixels, double pixelsPerPoint)
         pixels.convertToColorSpace(QColorSpace::SRgb);
     pixels = std::move(pixels).convertToFormat(format);
     pixels.setDevicePixelRatio(1);
-    const QSizeF pointSize = QSizeF(pixels.size()) / pixelsPerPoint;
+    const bool usable = std::isfinite(pixelsPerPoint) && pixelsPerPoint > 0;
+    const QSizeF pointSize = QSizeF(pixels.size()) / (usable ? pixelsPerPoint : 1);
     return { std::move(pixels), pointSize };
 }
 
@@ -27,7 +29,8 @@ double RasterImage::pixelScale() const
 
 int RasterImage::dpi() const
 {
-    return pointSize.width() > 0 ? static_cast<int>(std::lround(pixels.width() * 72 / pointSize.width())) : 72;
+    constexpr double most = std::numeric_limits<int>::max();
+    return pointSize.width() > 0 ? qRound(std::min(pixels.width() * 72 / pointSize.width(), most)) : 72;
 }
 
 } // namespace tessaly

@@ -15,7 +15,8 @@ struct RasterImage {
     QImage pixels;
     QSizeF pointSize;
 
-    /// The picture at `pixelsPerPoint`, its pixels converted to one of the two formats and to sRGB.
+    /// The picture at `pixelsPerPoint`, its pixels converted to one of the two formats and to sRGB. A scale that is not
+    /// a positive number is 1.
     static RasterImage fromPixels(QImage pixels, double pixelsPerPoint = 1);
 
     QSize pixelSize() const { return pixels.size(); }

@@ -7,7 +7,7 @@
 
 namespace tessaly::PlatformChoice {
 
-Result<std::unique_ptr<ScreenSource>> screenSource()
+Result<std::unique_ptr<ScreenSource>> screenSource(CaptureUse use)
 {
     const QByteArray forced = qgetenv("TESSALY_PLATFORM");
     if (!forced.isEmpty() && forced != "x11") {
@@ -20,7 +20,7 @@ Result<std::unique_ptr<ScreenSource>> screenSource()
         return Failure { QCoreApplication::translate(
             "PlatformChoice", "This version captures X11 screens only, and this is a Wayland session.") };
     }
-    return X11ScreenSource::create();
+    return X11ScreenSource::create(use);
 }
 
 } // namespace tessaly::PlatformChoice

@@ -10,6 +10,6 @@ namespace tessaly::PlatformChoice {
 
 /// The source for this desktop. TESSALY_PLATFORM=x11 or none forces a choice; where nothing can be captured the failure
 /// says what is missing.
-Result<std::unique_ptr<ScreenSource>> screenSource();
+Result<std::unique_ptr<ScreenSource>> screenSource(CaptureUse use);
 
 } // namespace tessaly::PlatformChoice

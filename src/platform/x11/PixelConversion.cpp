@@ -19,6 +19,14 @@ void makeOpaque(uchar *pixels, size_t pixelCount)
     });
 }
 
+void copyOpaque(const uchar *from, uchar *to, size_t pixelCount)
+{
+    const auto *source = reinterpret_cast<const uint32_t *>(from);
+    auto *target = reinterpret_cast<uint32_t *>(to);
+    for (size_t index = 0; index < pixelCount; ++index)
+        target[index] = source[index] | 0xff000000u;
+}
+
 /// The part of `pixel` under `mask`, stretched to 0 … 255.
 static int component(uint32_t pixel, uint32_t mask)
 {

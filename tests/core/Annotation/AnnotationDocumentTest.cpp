@@ -121,6 +121,14 @@ private Q_SLOTS:
         QTEST(message(AnnotationDocument::decoded(json)), "sentence");
     }
 
+    void commasInTextsAreNoValues()
+    {
+        const QByteArray text = QByteArray("[,\\\",").repeated(3'000'000);
+        const auto document = AnnotationDocument::decoded("{\"canvasSize\":[4,3],\"generator\":\"" + text + "\"}");
+        QVERIFY2(document, qPrintable(message(document)));
+        QCOMPARE(document->generator->size(), text.size() / 5 * 4);
+    }
+
     void refusesNumbersThatAreNone_data()
     {
         QTest::addColumn<AnnotationDocument>("document");

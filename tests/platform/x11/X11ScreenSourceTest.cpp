@@ -68,13 +68,19 @@ private Q_SLOTS:
         const QImage shown = distinctPixels({ 201, 99 });
         QVERIFY(putOnScreen(screen.displayName(), shown, { 0, 0 }));
 
-        auto source = X11ScreenSource::create(screen.displayName());
+        auto source = X11ScreenSource::create(CaptureUse::Repeated, screen.displayName());
         QVERIFY(source);
         const auto first = (*source)->capture(area, 2);
         QVERIFY(first);
         QCOMPARE(first->pointSize, QSizeF(visible.size()) / 2);
         const QImage expected = opaque(shown.copy(visible));
         QCOMPARE(first->pixels, expected);
+
+        auto onceSource = X11ScreenSource::create(CaptureUse::Once, screen.displayName());
+        QVERIFY(onceSource);
+        const auto once = (*onceSource)->capture(area, 2);
+        QVERIFY(once);
+        QCOMPARE(*once, *first);
 
         // A capture that is kept must not change when the screen is captured again.
         const QImage changed = distinctPixels({ 201, 99 }).mirrored(true, true);
@@ -92,7 +98,7 @@ private Q_SLOTS:
         QImage shown(64, 32, QImage::Format_RGB16);
         shown.fill(QColor(255, 0, 0));
         QVERIFY(putOnScreen(screen.displayName(), shown, { 0, 0 }));
-        auto source = X11ScreenSource::create(screen.displayName());
+        auto source = X11ScreenSource::create(CaptureUse::Repeated, screen.displayName());
         QVERIFY(source);
         const auto picture = (*source)->capture({ 0, 0, 64, 32 }, 1);
         QVERIFY(picture);
@@ -113,7 +119,7 @@ private Q_SLOTS:
         const QString resources = QStringLiteral("printf 'Xft.dpi: 144\\n' | xrdb -merge -nocpp");
         QCOMPARE(screen.run(QStringLiteral("sh"), { QStringLiteral("-c"), resources }), 0);
 
-        auto source = X11ScreenSource::create(screen.displayName());
+        auto source = X11ScreenSource::create(CaptureUse::Repeated, screen.displayName());
         QVERIFY(source);
         const auto displays = (*source)->displays();
         QVERIFY(displays);
@@ -126,11 +132,11 @@ private Q_SLOTS:
 
     void saysWhatIsMissing()
     {
-        const auto nobody = X11ScreenSource::create(QStringLiteral(":64999"));
+        const auto nobody = X11ScreenSource::create(CaptureUse::Once, QStringLiteral(":64999"));
         QVERIFY(!nobody);
         QVERIFY(nobody.failure().message.contains(u":64999"));
         const VirtualScreen screen(QStringLiteral("64x32x24"));
-        auto source = X11ScreenSource::create(screen.displayName());
+        auto source = X11ScreenSource::create(CaptureUse::Repeated, screen.displayName());
         QVERIFY(source);
         QVERIFY(!(*source)->capture({ 100, 100, 10, 10 }, 1));
     }

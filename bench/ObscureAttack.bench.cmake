@@ -1,0 +1,1 @@
+tessaly_bench(ObscureAttack USES core/Imaging)
