@@ -8,7 +8,7 @@ namespace tessaly::CellNoise {
 
 namespace {
 
-/// SipHash-2-4 of one 64-bit word.
+/// SipHash-1-3 of one 64-bit word.
 class KeyedHash {
 public:
     explicit KeyedHash(quint64 seed) :
@@ -24,11 +24,11 @@ public:
         constexpr quint64 lengthWord = quint64(8) << 56;
         for (const quint64 block : { word, lengthWord }) {
             m_v3 ^= block;
-            mix(2);
+            mix(1);
             m_v0 ^= block;
         }
         m_v2 ^= 0xff;
-        mix(4);
+        mix(3);
         return m_v0 ^ m_v1 ^ m_v2 ^ m_v3;
     }
 

@@ -16,9 +16,9 @@ namespace {
 /// The colour of a cell: its mean with the noise over it. The noise is opaque, so it fills what the mean lets through.
 QRgb colorOf(const CellMean &mean, bool opaque, float noise)
 {
-    const float alpha = opaque ? 1 : mean[3] / 255;
+    const float alpha = opaque ? 1 : mean[3] / 255, scale = alpha > 0 ? 1 / (255 * alpha) : 0;
     const auto component = [&](float premultiplied) {
-        const float below = alpha > 0 ? std::clamp(premultiplied / (255 * alpha), 0.0f, 1.0f) : 0;
+        const float below = std::min(premultiplied * scale, 1.0f);
         const float above = noise * (1 - alpha) + CellNoise::softLight(below, noise) * alpha;
         return static_cast<int>(above * 255 + 0.5f);
     };

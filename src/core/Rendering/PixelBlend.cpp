@@ -27,28 +27,44 @@ Source premultiplied(const QColor &color, double coverage)
     return { { byte(color.blueF() * alpha), byte(color.greenF() * alpha), byte(color.redF() * alpha), byte(alpha) } };
 }
 
-/// `pixels` bytes become byte × factor ÷ 255 + addend, with one factor and addend for each channel.
+// Twice as fast with the wider registers, and the same bytes. Sanitizers cannot resolve such functions at start-up.
+#if defined(__SANITIZE_ADDRESS__) || !defined(__x86_64__)
+#define WIDE_WHERE_POSSIBLE
+#else
+#define WIDE_WHERE_POSSIBLE __attribute__((target_clones("avx2", "default")))
+#endif
+
+/// Each byte becomes byte × factor ÷ 255 + addend; both lists repeat after four lanes.
+WIDE_WHERE_POSSIBLE
+void scaleAndAddLanes(uint8_t *bytes, int count, const uint16_t *factors, const uint16_t *addends)
+{
+    constexpr int block = 32;
+    int at = 0;
+    for (; at + block <= count; at += block) {
+        for (int lane = 0; lane < block; ++lane) {
+            // 255 · 255 + its own high byte + 128 still fits 16 bits.
+            const auto product = static_cast<uint16_t>(bytes[at + lane] * factors[lane]);
+            const auto scaled = static_cast<uint16_t>(static_cast<uint16_t>(product + (product >> 8) + 128) >> 8);
+            bytes[at + lane] = static_cast<uint8_t>(scaled + addends[lane]);
+        }
+    }
+    for (int lane = 0; at < count; ++at, ++lane) {
+        const unsigned product = unsigned(bytes[at]) * factors[lane];
+        bytes[at] = static_cast<uint8_t>(((product + (product >> 8) + 128) >> 8) + addends[lane]);
+    }
+}
+
+#undef WIDE_WHERE_POSSIBLE
+
+/// The same for whole pixels, with one factor and addend for each channel.
 void scaleAndAdd(uint8_t *row, int pixels, const std::array<uint8_t, 4> &factor, const std::array<uint8_t, 4> &addend)
 {
-    constexpr int block = 16;
-    std::array<uint16_t, block> factors, addends;
-    for (int lane = 0; lane < block; ++lane) {
+    std::array<uint16_t, 32> factors, addends;
+    for (size_t lane = 0; lane < factors.size(); ++lane) {
         factors[lane] = factor[lane % 4];
         addends[lane] = addend[lane % 4];
     }
-    const auto blend = [&](uint8_t *bytes, int count) {
-        for (int lane = 0; lane < count; ++lane) {
-            // 255 · 255 + its own high byte + 128 still fits 16 bits.
-            const auto product = static_cast<uint16_t>(bytes[lane] * factors[lane]);
-            const auto scaled = static_cast<uint16_t>(static_cast<uint16_t>(product + (product >> 8) + 128) >> 8);
-            bytes[lane] = static_cast<uint8_t>(scaled + addends[lane]);
-        }
-    };
-    const int bytes = pixels * 4;
-    int at = 0;
-    for (; at + block <= bytes; at += block)
-        blend(row + at, block);
-    blend(row + at, bytes - at);
+    scaleAndAddLanes(row, pixels * 4, factors.data(), addends.data());
 }
 
 /// Where nothing is transparent the blend is a product with one factor for each channel.

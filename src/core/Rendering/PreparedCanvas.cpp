@@ -63,7 +63,7 @@ public:
         m_result.m_spotlights.fitShapes(m_context.grid, m_pixels);
         divideMarks();
         prepareAllButLoupes();
-        prepareLoupes();
+        prepareLoupesAndTexts();
     }
 
 private:
@@ -79,8 +79,9 @@ private:
         const Annotation &mark = m_marks[index];
         PreparedMark &prepared = m_result.m_marks[size_t(index)];
         painterOf(mark.kind).prepare(mark, m_context, prepared);
-        prepared.fitShapes(m_context.grid, m_pixels);
     }
+
+    void fitShapes(qsizetype index) { m_result.m_marks[size_t(index)].fitShapes(m_context.grid, m_pixels); }
 
     void divideMarks()
     {
@@ -116,7 +117,10 @@ private:
                 prepare(index);
         } };
         for (const qsizetype index : m_forAnyThread)
-            tasks.emplace_back([this, index] { prepare(index); });
+            tasks.emplace_back([this, index] {
+                prepare(index);
+                fitShapes(index);
+            });
         std::atomic<size_t> next = 0;
         const auto drain = [&] {
             for (size_t at = next++; at < tasks.size(); at = next++)
@@ -154,7 +158,8 @@ private:
         return below;
     }
 
-    void prepareLoupes()
+    /// The outlines of the texts are still to be fitted, too.
+    void prepareLoupesAndTexts()
     {
         std::vector<Loupe> loupes;
         qint64 drawnAgain = 0;
@@ -169,14 +174,20 @@ private:
             }
             loupes.push_back(std::move(loupe));
         }
-        Parallel::forEach(int(loupes.size()), m_threads, [&](int number) {
-            const Loupe &loupe = loupes[size_t(number)];
-            const QImage contents
-                = loupe.affordable ? loupe.painter.magnifierContents(m_result.m_sample, loupe.below) : QImage();
-            PreparedMark &prepared = m_result.m_marks[size_t(loupe.index)];
-            loupe.painter.prepare(contents, m_context.paintable, prepared);
-            prepared.fitShapes(m_context.grid, m_pixels);
+        Parallel::forEach(int(loupes.size() + m_forThisThread.size()), m_threads, [&](int task) {
+            if (size_t(task) < loupes.size())
+                finish(loupes[size_t(task)]);
+            else
+                fitShapes(m_forThisThread[size_t(task) - loupes.size()]);
         });
+    }
+
+    void finish(const Loupe &loupe)
+    {
+        const QImage contents
+            = loupe.affordable ? loupe.painter.magnifierContents(m_result.m_sample, loupe.below) : QImage();
+        loupe.painter.prepare(contents, m_context.paintable, m_result.m_marks[size_t(loupe.index)]);
+        fitShapes(loupe.index);
     }
 
     PreparedCanvas &m_result;

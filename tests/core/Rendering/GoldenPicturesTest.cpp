@@ -35,7 +35,7 @@ private:
     {
         QRectF extent;
         for (const Annotation &mark : marks)
-            extent |= mark.boundingRect().adjusted(-8, -8, 8, 8);
+            extent |= mark.boundingRect().adjusted(-8, -8, 24, 8);
         return extent.toAlignedRect().intersected(QRect(QPoint(), test::sampleCanvas.toSize()));
     }
 
@@ -110,6 +110,8 @@ private Q_SLOTS:
 
 int main(int argc, char **argv)
 {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // --update is called by hand
     QGuiApplication application(argc, argv);
     QStringList arguments = application.arguments();
     GoldenPicturesTest test(arguments.removeAll(QStringLiteral("--update")) > 0);
