@@ -183,23 +183,37 @@ private Q_SLOTS:
         QCOMPARE(composition.rendered(4, 2), composition.image.pixels);
     }
 
-    void absurdFramesGiveNoPicture_data()
+    void absurdScalesGiveNoPicture_data()
     {
-        QTest::addColumn<double>("padding");
         QTest::addColumn<double>("scale");
-        QTest::newRow("a margin beyond all memory") << 1e6 << 1.0;
-        QTest::newRow("no number") << std::nan("") << 1.0;
-        QTest::newRow("scale of 0") << 0.1 << 0.0;
-        QTest::newRow("a scale beyond all memory") << 0.1 << 1e9;
+        QTest::newRow("none") << 0.0;
+        QTest::newRow("beyond all memory") << 1e9;
+        QTest::newRow("no number") << std::nan("");
     }
 
-    void absurdFramesGiveNoPicture()
+    void absurdScalesGiveNoPicture()
+    {
+        QFETCH(double, scale);
+        QVERIFY(compositionOf(test::plainCapture({ 40, 30 }), FrameStyle()).rendered(scale, 2).isNull());
+    }
+
+    void absurdMarginsAreBroughtIntoRange_data()
+    {
+        QTest::addColumn<double>("padding");
+        QTest::addColumn<double>("drawn");
+        QTest::newRow("beyond all memory") << 1e6 << 2.0;
+        QTest::newRow("no number") << std::nan("") << FrameStyle().padding;
+    }
+
+    void absurdMarginsAreBroughtIntoRange()
     {
         QFETCH(double, padding);
-        QFETCH(double, scale);
-        FrameStyle style;
-        style.padding = padding;
-        QVERIFY(compositionOf(test::plainCapture({ 40, 30 }), style).rendered(scale, 2).isNull());
+        QFETCH(double, drawn);
+        FrameStyle absurd, usual;
+        absurd.padding = padding;
+        usual.padding = drawn;
+        const RasterImage capture = test::plainCapture({ 40, 30 });
+        QCOMPARE(compositionOf(capture, absurd).rendered(1, 2), compositionOf(capture, usual).rendered(1, 2));
     }
 };
 
