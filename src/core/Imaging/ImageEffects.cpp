@@ -86,7 +86,8 @@ QImage obscuringBlur(const QImage &region, double strength)
     constexpr double radiusPerSide = 0.125, smallestRadius = 6;
     if (region.isNull())
         return {};
-    const double side = std::min(region.width(), region.height());
+    // The longer side: a line of text is flat, and by its height the blur would leave it readable.
+    const double side = std::max(region.width(), region.height());
     const double radius = std::max(usableStrength(strength) * side * radiusPerSide, smallestRadius);
     return onGrey(GaussianBlur::blurred(inKnownFormat(region), radius, GaussianBlur::Outside::Edge,
         GaussianBlur::Precision::Hiding, threadsFor(region.size())));
