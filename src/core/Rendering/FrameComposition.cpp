@@ -46,7 +46,7 @@ QImage framed(
     const FrameBackground background(frame, layout.canvasSize, composition.forEditor);
     const FrameLayout::Shadow shadow = FrameLayout::shadowMetrics(frame, layout);
     const QPoint origin = (layout.imageOrigin * scale).toPoint();
-    const double cornerRadius = std::max(frame.cornerRadius, 0.0) * scale;
+    const double cornerRadius = frame.cornerRadius * scale;
     const QPainterPath shape = continuousCornerPath(QRectF(content.rect()), cornerRadius);
     const FrameShadow soft(content, shape, cornerRadius, shadow.radius * scale);
     const QPoint shadowOrigin = origin + QPoint(0, static_cast<int>(std::lround(shadow.yOffset * scale)));
@@ -74,10 +74,10 @@ QImage FrameComposition::rendered(double scale, int threads) const
         return {};
     QImage picture = content.drawnOver(image, contentSize, scale, threads);
     if (frame && !picture.isNull())
-        picture = framed(*this, *frame, picture, scale, threads);
+        picture = framed(*this, frame->drawable(), picture, scale, threads);
     if (!watermark || picture.isNull())
         return picture;
-    PreparedMark mark = prepareWatermark(*watermark, layout.canvasSize, scale);
+    PreparedMark mark = prepareWatermark(watermark->drawable(), layout.canvasSize, scale);
     if (mark.steps.empty())
         return picture;
     const PixelGrid grid = PixelGrid::scaledBy(scale);

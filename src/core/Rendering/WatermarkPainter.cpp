@@ -100,21 +100,19 @@ std::vector<QTransform> placements(const Watermark &watermark, QSizeF mark, QSiz
 PreparedMark prepareWatermark(const Watermark &watermark, QSizeF canvasSize, double pixelsPerPoint)
 {
     PreparedMark prepared;
-    const bool drawable = std::isfinite(watermark.size) && watermark.size > 0 && watermark.size < 100;
-    if (!watermark.isVisible() || canvasSize.isEmpty() || !drawable)
+    if (!watermark.isVisible() || canvasSize.isEmpty() || watermark.opacity <= 0)
         return prepared;
-    const double opacity = std::clamp(std::isfinite(watermark.opacity) ? watermark.opacity : 0.0, 0.0, 1.0);
     const Stamp stamp = watermark.kind == WatermarkKind::Text ? textStamp(watermark, canvasSize, pixelsPerPoint)
                                                               : logoStamp(watermark, canvasSize, pixelsPerPoint);
     if (stamp.size.isEmpty())
         return prepared;
     QColor color = ColorHex::toColor(watermark.colorHex);
-    color.setAlphaF(float(color.alphaF() * opacity));
+    color.setAlphaF(float(color.alphaF() * watermark.opacity));
     for (const QTransform &placement : placements(watermark, stamp.size, canvasSize)) {
         prepared.fill(placement.map(stamp.outline), color);
         for (PictureStep picture : stamp.pictures) {
             picture.placement = placement;
-            picture.opacity = opacity;
+            picture.opacity = watermark.opacity;
             prepared.add(std::move(picture));
         }
     }

@@ -7,6 +7,7 @@
 namespace tessaly {
 
 /// What a watermark paints on a canvas of `canvasSize` points at `pixelsPerPoint`; nothing for one that cannot be seen.
+/// Its numbers are in range.
 ///
 /// `size` refers to the canvas's shorter side, so that a mark looks the same on an upright and on a wide picture: the
 /// longer side of a logo is `size` times it, and a text's font size a fifth of that, never under 6 points, and made
