@@ -90,18 +90,40 @@ struct Between {
     Sample secondWeight, firstWeight;
 };
 
-/// Widens a row of means to `side` pixels for each interval between the middles of two blocks.
+/// Deals `side` rows of pixels out in turn.
+template <int channels, int side>
+void interleave(const Sample *rows, int count, Sample *__restrict out)
+{
+    for (int index = 0; index < count; ++index, rows += channels, out += side * channels) {
+        for (int row = 0; row < side; ++row)
+            std::memcpy(out + row * channels, rows + row * count * channels, channels * sizeof(Sample));
+    }
+}
+
+/// The most common sides get a loop that the compiler unrolls.
+template <int channels>
+void interleave(const Sample *rows, int side, int count, Sample *out)
+{
+    if (side == 2)
+        return interleave<channels, 2>(rows, count, out);
+    if (side == 4)
+        return interleave<channels, 4>(rows, count, out);
+    for (int row = 0; row < side; ++row, rows += count * channels) {
+        for (int index = 0; index < count; ++index)
+            std::memcpy(out + (index * side + row) * channels, rows + index * channels, channels * sizeof(Sample));
+    }
+}
+
+/// Widens a row of means to `side` pixels for each interval between the middles of two blocks. `mixing` holds as much.
 template <int channels>
 void widen(const Sample *row, int intervals, int side, Sample *mixing, Sample *wide)
 {
+    const int count = intervals * channels;
     for (int pixel = 0; pixel < side; ++pixel) {
         const Between place(pixel + side / 2, side);
-        mixNeighbours(row, row + channels, place.firstWeight, place.secondWeight, intervals * channels, mixing);
-        Sample *to = wide + pixel * channels;
-        const int step = side * channels;
-        for (int index = 0; index < intervals; ++index)
-            std::memcpy(to + index * step, mixing + index * channels, channels * sizeof(Sample));
+        mixNeighbours(row, row + channels, place.firstWeight, place.secondWeight, count, mixing + pixel * count);
     }
+    interleave<channels>(mixing, side, intervals, wide);
 }
 
 } // namespace
@@ -184,8 +206,8 @@ void enlarge(const Grid &grid, int first, int end, const std::function<void(int,
 {
     const int columns = grid.columns(), channels = grid.channels, intervals = columns - 1;
     const int count = grid.pixelSize.width() * channels, margin = (grid.side - grid.side / 2) * channels;
-    std::vector<Sample> row(std::size_t(columns) * channels), mixing(row.size());
-    std::vector<Sample> above(std::size_t(intervals) * grid.side * channels), below(above.size());
+    std::vector<Sample> row(std::size_t(columns) * channels);
+    std::vector<Sample> above(std::size_t(intervals) * grid.side * channels), below(above.size()), mixing(above.size());
     const auto widenRow = channels == 4 ? widen<4> : widen<1>;
     int widened = Between(first, grid.side).first - 1;
     for (int y = first; y < end; ++y) {

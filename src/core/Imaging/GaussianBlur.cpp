@@ -54,22 +54,35 @@ std::vector<Sample> weightsFor(double radius)
     return weights;
 }
 
+/// A row of samples and its weight.
+struct WeightedRow {
+    const Sample *samples;
+    Sample weight;
+};
+
+inline __attribute__((always_inline)) Sample product(Sample sample, Sample weight)
+{
+    return static_cast<Sample>(std::uint32_t(sample) * weight >> 16);
+}
+
 TESSALY_WIDE_VECTORS
-void addWeighted(const Sample *__restrict samples, Sample weight, qsizetype count, Sample *__restrict sums)
+void addPair(const Sample *__restrict one, Sample oneWeight, const Sample *__restrict other, Sample otherWeight,
+    qsizetype count, Sample *__restrict sums)
 {
     for (qsizetype index = 0; index < count; ++index)
         sums[index]
-            = static_cast<Sample>(sums[index] + static_cast<Sample>(std::uint32_t(samples[index]) * weight >> 16));
+            = static_cast<Sample>(sums[index] + product(one[index], oneWeight) + product(other[index], otherWeight));
 }
 
-/// The weighted sum of rows of samples. Integers throughout: no order of working can change a bit, and no colour comes
-/// to exceed its alpha.
-void sumRows(const std::vector<const Sample *> &rows, const std::vector<Sample> &weights, qsizetype count, Sample *sums)
+/// The weighted sum of an odd number of rows. Integers throughout: no order of working can change a bit, and no colour
+/// comes to exceed its alpha.
+void sumRows(const std::vector<WeightedRow> &rows, qsizetype count, Sample *sums)
 {
     // Each product loses half a bit on average.
     std::fill_n(sums, count, static_cast<Sample>(rows.size() / 2));
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        addWeighted(rows[row], weights[row], count, sums);
+    for (std::size_t row = 0; row + 1 < rows.size(); row += 2)
+        addPair(rows[row].samples, rows[row].weight, rows[row + 1].samples, rows[row + 1].weight, count, sums);
+    addPair(rows.back().samples, rows.back().weight, rows.back().samples, 0, count, sums);
 }
 
 /// The blocks of one picture, softened across and then, as they are asked for, down.
@@ -97,26 +110,29 @@ public:
         BlockSampling::Shrinker shrinker(m_image, m_grid, m_outside);
         const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
         std::vector<Sample> padded(m_rowSamples + 2 * margin);
-        std::vector<const Sample *> places;
+        std::vector<WeightedRow> places;
         for (std::size_t place = 0; place < m_weights.size(); ++place)
-            places.push_back(padded.data() + place * m_grid.channels);
+            places.push_back({ padded.data() + place * m_grid.channels, m_weights[place] });
         for (int row = first; row < end; ++row) {
             shrinker.shrinkRow(row, padded.data() + margin);
             if (m_outside == Outside::Edge)
                 continueEdges(padded, margin);
-            sumRows(places, m_weights, m_rowSamples, rowAt(row));
+            sumRows(places, m_rowSamples, rowAt(row));
         }
     }
 
     /// A row softened both ways.
     void read(int row, Sample *out) const
     {
-        std::vector<const Sample *> rows;
-        for (int place = row - m_reach; place <= row + m_reach; ++place) {
+        std::vector<WeightedRow> rows;
+        rows.reserve(m_weights.size());
+        for (const Sample weight : m_weights) {
+            const int place = row - m_reach + static_cast<int>(rows.size());
             const int inside = std::clamp(place, 0, m_grid.rows() - 1);
-            rows.push_back(place == inside || m_outside == Outside::Edge ? rowAt(inside) : m_nothing.data());
+            const bool empty = place != inside && m_outside == Outside::Nothing;
+            rows.push_back({ empty ? m_nothing.data() : rowAt(inside), weight });
         }
-        sumRows(rows, m_weights, m_rowSamples, out);
+        sumRows(rows, m_rowSamples, out);
     }
 
 private:
