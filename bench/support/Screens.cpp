@@ -29,6 +29,8 @@ QColor anyColor(Random &random)
 /// Antialiased strokes in the rhythm of words; fonts would differ from machine to machine.
 void textRows(QPainter &painter, Random &random, const QRect &area, int lineHeight, const QColor &ink)
 {
+    if (area.isEmpty())
+        return;
     painter.setPen(QPen(ink, std::max(1.0, lineHeight / 11.0)));
     const double glyph = lineHeight * 0.42;
     for (int y = area.top() + lineHeight; y < area.bottom(); y += lineHeight) {
