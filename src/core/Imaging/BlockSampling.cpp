@@ -135,6 +135,11 @@ double variance(int blockSide)
     return blockSide == 1 ? 0 : (square - 1) / 12 + square / 6;
 }
 
+std::pair<int, int> Grid::rowsAround(int first, int end) const
+{
+    return { Between(first, side).first, Between(end - 1, side).first + 2 };
+}
+
 Shrinker::Shrinker(const QImage &image, const Grid &grid, Outside outside) :
     m_image(image),
     m_grid(grid),

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 /// A picture held as the means of its square blocks, for work that looks at nothing finer.
@@ -26,6 +27,10 @@ struct Grid {
 
     int columns() const { return (pixelSize.width() + side - 1) / side + 2; }
     int rows() const { return (pixelSize.height() + side - 1) / side + 2; }
+
+    /// The rows of blocks, from the first to before the second, that the pixel rows `first` to before `end` lie
+    /// between.
+    std::pair<int, int> rowsAround(int first, int end) const;
 };
 
 /// Takes the means, one row of blocks at a time. Keeps references; each thread needs its own.

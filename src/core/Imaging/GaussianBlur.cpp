@@ -7,6 +7,7 @@
 #include "core/Imaging/WideVectors.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <vector>
 
@@ -85,41 +86,29 @@ void sumRows(const std::vector<WeightedRow> &rows, qsizetype count, Sample *sums
     addPair(rows.back().samples, rows.back().weight, rows.back().samples, 0, count, sums);
 }
 
-/// The blocks of one picture, softened across and then, as they are asked for, down.
+/// Some rows of a picture's blocks, softened across and then, as they are asked for, down.
 class SoftBlocks {
 public:
-    SoftBlocks(const QImage &image, const Grid &grid, Outside outside, std::vector<Sample> weights) :
-        m_image(image),
+    /// For the rows of blocks `first` to before `end`, and those that these are softened with.
+    SoftBlocks(const QImage &image, const Grid &grid, Outside outside, const std::vector<Sample> &weights, int first,
+        int end) :
         m_grid(grid),
         m_outside(outside),
-        m_weights(std::move(weights)),
-        m_reach(static_cast<int>(m_weights.size() / 2)),
+        m_weights(weights),
+        m_reach(static_cast<int>(weights.size() / 2)),
+        m_first(std::max(first - m_reach, 0)),
+        m_end(std::min(end + m_reach, grid.rows())),
         m_rowSamples(qsizetype(grid.columns()) * grid.channels),
-        m_memory(PixelMemory::allocate(
-            { grid.columns(), grid.rows() }, grid.channels == 4 ? QImage::Format_RGBA64 : QImage::Format_Grayscale16)),
+        m_memory(PixelMemory::allocate({ grid.columns(), m_end - m_first },
+            grid.channels == 4 ? QImage::Format_RGBA64 : QImage::Format_Grayscale16)),
         m_samples(m_memory.bits()),
         m_nothing(m_rowSamples)
     {
+        if (!isNull())
+            softenAcross(image);
     }
 
     bool isNull() const { return m_memory.isNull(); }
-
-    /// Shrinks and softens the rows `first` to before `end` across.
-    void prepareRows(int first, int end)
-    {
-        BlockSampling::Shrinker shrinker(m_image, m_grid, m_outside);
-        const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
-        std::vector<Sample> padded(m_rowSamples + 2 * margin);
-        std::vector<WeightedRow> places;
-        for (std::size_t place = 0; place < m_weights.size(); ++place)
-            places.push_back({ padded.data() + place * m_grid.channels, m_weights[place] });
-        for (int row = first; row < end; ++row) {
-            shrinker.shrinkRow(row, padded.data() + margin);
-            if (m_outside == Outside::Edge)
-                continueEdges(padded, margin);
-            sumRows(places, m_rowSamples, rowAt(row));
-        }
-    }
 
     /// A row softened both ways.
     void read(int row, Sample *out) const
@@ -136,7 +125,26 @@ public:
     }
 
 private:
-    Sample *rowAt(int row) const { return reinterpret_cast<Sample *>(m_samples + row * m_memory.bytesPerLine()); }
+    Sample *rowAt(int row) const
+    {
+        return reinterpret_cast<Sample *>(m_samples + (row - m_first) * m_memory.bytesPerLine());
+    }
+
+    void softenAcross(const QImage &image)
+    {
+        BlockSampling::Shrinker shrinker(image, m_grid, m_outside);
+        const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
+        std::vector<Sample> padded(m_rowSamples + 2 * margin);
+        std::vector<WeightedRow> places;
+        for (std::size_t place = 0; place < m_weights.size(); ++place)
+            places.push_back({ padded.data() + place * m_grid.channels, m_weights[place] });
+        for (int row = m_first; row < m_end; ++row) {
+            shrinker.shrinkRow(row, padded.data() + margin);
+            if (m_outside == Outside::Edge)
+                continueEdges(padded, margin);
+            sumRows(places, m_rowSamples, rowAt(row));
+        }
+    }
 
     void continueEdges(std::vector<Sample> &padded, qsizetype margin) const
     {
@@ -148,11 +156,11 @@ private:
         }
     }
 
-    const QImage &m_image;
     const Grid &m_grid;
     Outside m_outside;
-    std::vector<Sample> m_weights;
+    const std::vector<Sample> &m_weights;
     int m_reach;
+    int m_first, m_end;
     qsizetype m_rowSamples;
     QImage m_memory;
     uchar *m_samples;
@@ -168,18 +176,25 @@ QImage blurred(const QImage &image, double pixelRadius, Outside outside, Precisi
     const double radius = std::min(pixelRadius, largestRadius);
     const Grid grid { image.size(), blockSideFor(radius, image.size(), precision), image.depth() / 8 };
     const double own = BlockSampling::variance(grid.side);
-    SoftBlocks blocks(image, grid, outside, weightsFor(std::sqrt(radius * radius - own) / grid.side));
+    const std::vector<Sample> weights = weightsFor(std::sqrt(radius * radius - own) / grid.side);
     QImage out = PixelMemory::allocate(image.size(), image.format());
-    if (blocks.isNull() || out.isNull())
+    if (out.isNull())
         return {};
 
-    // Two rounds and no more: starting a thread costs as much as 50 000 pixels.
-    Parallel::inBands(grid.rows(), threads, threads, [&](int first, int end) { blocks.prepareRows(first, end); });
+    // The threads share nothing, and shrink some rows twice: waiting for each other in the middle costs more.
     uchar *bits = out.bits();
-    const auto readRow = [&blocks](int row, Sample *samples) { blocks.read(row, samples); };
-    Parallel::inBands(image.height(), threads, threads,
-        [&](int first, int end) { BlockSampling::enlarge(grid, first, end, readRow, bits, out.bytesPerLine()); });
-    return out;
+    std::atomic<bool> complete = true;
+    Parallel::inBands(image.height(), threads, threads, [&](int first, int end) {
+        const auto [firstRow, endRow] = grid.rowsAround(first, end);
+        const SoftBlocks blocks(image, grid, outside, weights, firstRow, endRow);
+        if (blocks.isNull()) {
+            complete = false;
+            return;
+        }
+        const auto readRow = [&blocks](int row, Sample *samples) { blocks.read(row, samples); };
+        BlockSampling::enlarge(grid, first, end, readRow, bits, out.bytesPerLine());
+    });
+    return complete ? out : QImage();
 }
 
 } // namespace tessaly::GaussianBlur
