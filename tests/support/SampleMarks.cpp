@@ -68,7 +68,7 @@ void addBoxes(Sheet &sheet)
         Annotation &text = sheet.add(AnnotationKind::Text, { 110, 24 });
         text.text = styled ? QStringLiteral("Grüße — bold") : QStringLiteral("Plain text");
         text.bold = text.italic = styled;
-        text.fontName = styled ? QStringLiteral("DejaVu Serif") : QString();
+        text.fontName = styled ? QStringLiteral("Noto Serif") : QString();
     }
 }
 
