@@ -144,7 +144,7 @@ class BlurHiding final : public Hiding {
 public:
     BlurHiding(const Scene &scene, double strength) : m_strength(strength)
     {
-        const double side = std::min(scene.size().width(), scene.size().height());
+        const double side = std::max(scene.size().width(), scene.size().height());
         m_radius = std::max(strength * side * 0.125, 6.0);
         m_step = std::max(1, static_cast<int>(m_radius / 3));
     }
