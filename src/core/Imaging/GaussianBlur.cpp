@@ -25,7 +25,9 @@ constexpr double largestRadius = 16.0 * BlockSampling::maxBlockSide;
 int blockSideFor(double radius, QSize size, Precision precision)
 {
     const double blocksPerRadius = precision == Precision::Picture ? 3 : 1.5;
-    const int enough = std::min(BlockSampling::maxBlockSide, std::max(size.width(), size.height()));
+    // Larger ones would be too few to share among threads, and gain nothing: so few blocks are no work.
+    constexpr int blocksToShare = 8;
+    const int enough = std::min(BlockSampling::maxBlockSide, std::max(size.width(), size.height()) / blocksToShare);
     int side = 1;
     while (side < enough && 2 * side * blocksPerRadius <= radius)
         side *= 2;
@@ -36,7 +38,7 @@ int blockSideFor(double radius, QSize size, Precision precision)
 std::vector<Sample> weightsFor(double radius)
 {
     constexpr double reach = 3.3; // beyond it there is less than a thousandth
-    constexpr double largest = 16; // only where a whole picture is a block or two, and all but even
+    constexpr double largest = 16; // only where that is twice the whole picture, and all is even
     radius = std::min(radius, largest);
     const int last = std::max(static_cast<int>(std::ceil(reach * radius)), 1);
     std::vector<double> shares;
@@ -89,9 +91,8 @@ void sumRows(const std::vector<WeightedRow> &rows, qsizetype count, Sample *sums
 /// Some rows of a picture's blocks, softened across and then, as they are asked for, down.
 class SoftBlocks {
 public:
-    /// For the rows of blocks `first` to before `end`, and those that these are softened with.
-    SoftBlocks(const QImage &image, const Grid &grid, Outside outside, const std::vector<Sample> &weights, int first,
-        int end) :
+    /// Room for the rows of blocks `first` to before `end`, and those that these are softened with.
+    SoftBlocks(const Grid &grid, Outside outside, const std::vector<Sample> &weights, int first, int end) :
         m_grid(grid),
         m_outside(outside),
         m_weights(weights),
@@ -104,11 +105,28 @@ public:
         m_samples(m_memory.bits()),
         m_nothing(m_rowSamples)
     {
-        if (!isNull())
-            softenAcross(image);
     }
 
     bool isNull() const { return m_memory.isNull(); }
+    int first() const { return m_first; }
+    int end() const { return m_end; }
+
+    /// Fills the rows `first` to before `end` with blocks of the picture, softened across.
+    void softenAcross(const QImage &image, int first, int end)
+    {
+        BlockSampling::Shrinker shrinker(image, m_grid, m_outside);
+        const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
+        std::vector<Sample> padded(m_rowSamples + 2 * margin);
+        std::vector<WeightedRow> places;
+        for (std::size_t place = 0; place < m_weights.size(); ++place)
+            places.push_back({ padded.data() + place * m_grid.channels, m_weights[place] });
+        for (int row = first; row < end; ++row) {
+            shrinker.shrinkRow(row, padded.data() + margin);
+            if (m_outside == Outside::Edge)
+                continueEdges(padded, margin);
+            sumRows(places, m_rowSamples, rowAt(row));
+        }
+    }
 
     /// A row softened both ways.
     void read(int row, Sample *out) const
@@ -128,22 +146,6 @@ private:
     Sample *rowAt(int row) const
     {
         return reinterpret_cast<Sample *>(m_samples + (row - m_first) * m_memory.bytesPerLine());
-    }
-
-    void softenAcross(const QImage &image)
-    {
-        BlockSampling::Shrinker shrinker(image, m_grid, m_outside);
-        const qsizetype margin = qsizetype(m_reach) * m_grid.channels;
-        std::vector<Sample> padded(m_rowSamples + 2 * margin);
-        std::vector<WeightedRow> places;
-        for (std::size_t place = 0; place < m_weights.size(); ++place)
-            places.push_back({ padded.data() + place * m_grid.channels, m_weights[place] });
-        for (int row = m_first; row < m_end; ++row) {
-            shrinker.shrinkRow(row, padded.data() + margin);
-            if (m_outside == Outside::Edge)
-                continueEdges(padded, margin);
-            sumRows(places, m_rowSamples, rowAt(row));
-        }
     }
 
     void continueEdges(std::vector<Sample> &padded, qsizetype margin) const
@@ -181,18 +183,35 @@ QImage blurred(const QImage &image, double pixelRadius, Outside outside, Precisi
     if (out.isNull())
         return {};
 
-    // The threads share nothing, and shrink some rows twice: waiting for each other in the middle costs more.
     uchar *bits = out.bits();
+    const auto enlarge = [&](const SoftBlocks &blocks, int first, int end) {
+        const auto readRow = [&blocks](int row, Sample *samples) { blocks.read(row, samples); };
+        BlockSampling::enlarge(grid, first, end, readRow, bits, out.bytesPerLine());
+    };
+    const int reach = static_cast<int>(weights.size() / 2);
+    if (2 * reach * threads > grid.rows()) {
+        // Every thread needs nearly all rows of blocks: they make them together first.
+        SoftBlocks blocks(grid, outside, weights, 0, grid.rows());
+        if (blocks.isNull())
+            return {};
+        // In small bands, so that the first thread is well under way when the others have started.
+        const int bands = 4 * threads;
+        Parallel::inBands(
+            grid.rows(), bands, threads, [&](int first, int end) { blocks.softenAcross(image, first, end); });
+        Parallel::inBands(image.height(), bands, threads, [&](int first, int end) { enlarge(blocks, first, end); });
+        return out;
+    }
+    // The threads share nothing, and shrink some rows twice: waiting for each other in the middle costs more.
     std::atomic<bool> complete = true;
     Parallel::inBands(image.height(), threads, threads, [&](int first, int end) {
         const auto [firstRow, endRow] = grid.rowsAround(first, end);
-        const SoftBlocks blocks(image, grid, outside, weights, firstRow, endRow);
+        SoftBlocks blocks(grid, outside, weights, firstRow, endRow);
         if (blocks.isNull()) {
             complete = false;
             return;
         }
-        const auto readRow = [&blocks](int row, Sample *samples) { blocks.read(row, samples); };
-        BlockSampling::enlarge(grid, first, end, readRow, bits, out.bytesPerLine());
+        blocks.softenAcross(image, blocks.first(), blocks.end());
+        enlarge(blocks, first, end);
     });
     return complete ? out : QImage();
 }
