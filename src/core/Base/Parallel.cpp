@@ -12,14 +12,23 @@ int defaultThreadCount() { return std::clamp(static_cast<int>(std::thread::hardw
 
 void forEach(int count, int threads, const std::function<void(int)> &work)
 {
+    // This thread takes part from the start, so one index fewer is left for others.
+    forEachBeside([] {}, count, std::min(threads, count), work);
+}
+
+void forEachBeside(const std::function<void()> &here, int count, int threads, const std::function<void(int)> &work)
+{
     std::atomic<int> next = 0;
     const auto drain = [&] {
         for (int index = next++; index < count; index = next++)
             work(index);
     };
+    // New threads each time: measured against waiting ones of a pool, they gain more on a whole picture (a new thread
+    // begins on the idlest core) than they cost on a small one.
     std::vector<std::jthread> others;
-    for (int extra = 1; extra < std::min(threads, count); ++extra)
+    for (int other = 0; other < std::min(threads - 1, count); ++other)
         others.emplace_back(drain);
+    here();
     drain();
 }
 

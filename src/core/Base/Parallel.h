@@ -13,6 +13,11 @@ int defaultThreadCount();
 /// depend on each other. One thread, or one index, runs everything on the calling thread.
 void forEach(int count, int threads, const std::function<void(int index)> &work);
 
+/// The same while the calling thread first does `here`, which only it may do, and then helps. With one thread `here`
+/// comes first.
+void forEachBeside(
+    const std::function<void()> &here, int count, int threads, const std::function<void(int index)> &work);
+
 /// Splits `rows` rows into `bands` nearly equal runs and calls `work(firstRow, endRow)` for each, as forEach does.
 void inBands(int rows, int bands, int threads, const std::function<void(int firstRow, int endRow)> &work);
 

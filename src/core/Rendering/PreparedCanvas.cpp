@@ -10,9 +10,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <atomic>
-#include <functional>
-#include <thread>
 
 namespace tessaly {
 
@@ -112,27 +109,21 @@ private:
     /// The other threads start with what any may do, while this one does what only it may.
     void prepareAllButLoupes()
     {
-        std::vector<std::function<void()>> tasks { [this] {
-            for (const qsizetype index : m_inOrder)
+        const auto onThisThread = [this] {
+            for (const qsizetype index : m_forThisThread)
                 prepare(index);
-        } };
-        for (const qsizetype index : m_forAnyThread)
-            tasks.emplace_back([this, index] {
-                prepare(index);
-                fitShapes(index);
-            });
-        std::atomic<size_t> next = 0;
-        const auto drain = [&] {
-            for (size_t at = next++; at < tasks.size(); at = next++)
-                tasks[at]();
         };
-        std::vector<std::jthread> others;
-        for (size_t extra = 1; extra < std::min(size_t(m_threads), tasks.size()); ++extra)
-            others.emplace_back(drain);
-        for (const qsizetype index : m_forThisThread)
+        // The first task is all the marks that must keep their order.
+        Parallel::forEachBeside(onThisThread, int(m_forAnyThread.size()) + 1, m_threads, [this](int task) {
+            if (task == 0) {
+                for (const qsizetype index : m_inOrder)
+                    prepare(index);
+                return;
+            }
+            const qsizetype index = m_forAnyThread[size_t(task) - 1];
             prepare(index);
-        drain();
-        others.clear(); // waits for them
+            fitShapes(index);
+        });
         for (PreparedMark &mark : m_result.m_marks)
             mark.fitPictures(m_context.grid, m_pixels, m_fitted);
     }
