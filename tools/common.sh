@@ -2,8 +2,10 @@
 # shellcheck shell=bash
 # What ./run, ./test and bench/run share. Source it from the root of the tree.
 
-# Says what failed and what to do, in one line, and stops.
+# fail SENTENCE [LOG]: says what failed and what to do, in one line, and stops. Where nobody can open the log later, as
+# on a machine that only tests, its end is shown before.
 fail() {
+    [ -z "${CI:-}" ] || [ -z "${2:-}" ] || tail -n 40 "$2" >&2
     printf '%s: %s\n' "${0##*/}" "$1" >&2
     exit 1
 }
@@ -28,7 +30,7 @@ install_packages() {
     mkdir -p build
     { "${root[@]}" apt-get update -q && "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -q --no-install-recommends "${missing[@]}"; } >build/packages.log 2>&1 ||
-        fail "installing packages failed; build/packages.log says why (is there a network?)"
+        fail "installing packages failed; build/packages.log says why (is there a network?)" build/packages.log
 }
 
 # build_preset PRESET: configures where needed and builds; silent when there is nothing to do.
@@ -37,8 +39,7 @@ build_preset() {
     mkdir -p build
     if [ ! -f "build/$preset/build.ninja" ]; then
         printf 'Building Tessaly in build/%s; the first time takes some minutes.\n' "$preset" >&2
-        cmake --preset "$preset" >"$log" 2>&1 || fail "configuring failed; $log says why"
+        cmake --preset "$preset" >"$log" 2>&1 || fail "configuring failed; $log says why" "$log"
     fi
-    cmake --build "build/$preset" >"$log" 2>&1 ||
-        { grep -m 5 -E 'error|FAILED' "$log" >&2; fail "building failed; $log says why"; }
+    cmake --build "build/$preset" >"$log" 2>&1 || fail "building failed; $log says why" "$log"
 }

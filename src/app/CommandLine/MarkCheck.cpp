@@ -44,16 +44,15 @@ public:
     {
         QStringList counts;
         if (m_leftOut > 0)
-            counts += Text::tr("%1 left out").arg(m_leftOut);
+            counts += Text::tr("%1 of %2 marks left out").arg(m_leftOut).arg(total);
         if (m_adjusted > 0)
-            counts += Text::tr("%1 drawn with a value brought into range").arg(m_adjusted);
+            counts += Text::tr("%1 of %2 marks drawn with a value brought into range").arg(m_adjusted).arg(total);
         if (counts.isEmpty())
             return std::nullopt;
         QString reason = m_first;
         while (reason.endsWith(u'.'))
             reason.chop(1);
-        return Text::tr("Of %1 marks, %2; the first: %3.")
-            .arg(QString::number(total), counts.join(Text::tr(" and ")), reason);
+        return Text::tr("%1; the first: %2.").arg(counts.join(Text::tr(" and ")), reason);
     }
 
 private:
