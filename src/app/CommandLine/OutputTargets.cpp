@@ -10,8 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,23 +36,6 @@ std::optional<QString> documentAround(const QString &path)
             break;
     }
     return std::nullopt;
-}
-
-/// A path that names something which is neither a file nor a folder: a device, a pipe.
-bool isStream(const QString &path)
-{
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISREG(status.st_mode)
-        && !S_ISDIR(status.st_mode);
-}
-
-int writeToStream(const QString &path, const QByteArray &bytes)
-{
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return errno;
-    const int error = ByteStream::writeAll(descriptor, bytes);
-    return ::close(descriptor) != 0 && error == 0 ? errno : error;
 }
 
 } // namespace
@@ -108,17 +89,16 @@ Result<QString> OutputTargets::pathFor(const QString &input, QLatin1StringView e
 Outcome OutputTargets::write(const QString &path, const QByteArray &bytes, const QString &input)
 {
     const InterruptionGuard guard;
-    if (!isStandardOutput() && !isStream(path)) {
+    if (!isStandardOutput()) {
         Outcome written = SafeFile::write(path, bytes);
         if (written)
             m_writtenFrom.insert(QFileInfo(path).absoluteFilePath(), input);
         return written;
     }
-    const int error = isStandardOutput() ? ByteStream::writeAll(STDOUT_FILENO, bytes) : writeToStream(path, bytes);
+    const int error = ByteStream::writeAll(STDOUT_FILENO, bytes);
     if (error == 0)
         return Done {};
-    const QString name = isStandardOutput() ? Text::tr("Standard output") : path;
-    return Failure { Text::tr("%1 could not be written: %2.").arg(name, ByteStream::reason(error)) };
+    return Failure { Text::tr("Standard output could not be written: %1.").arg(ByteStream::reason(error)) };
 }
 
 ExportFormat OutputTargets::format(std::optional<ExportFormat> chosen, const Settings &settings) const

@@ -156,16 +156,17 @@ Outcome write(const QString &path, const QByteArray &bytes)
 {
     const QString target = linkTarget(path);
     struct stat existing = {};
-    const bool exists = ::stat(QFile::encodeName(target).constData(), &existing) == 0;
+    // By the path as it is given: a link such as /dev/stdout may lead to a pipe that has no name of its own.
+    const bool exists = ::stat(QFile::encodeName(path).constData(), &existing) == 0;
     int error = 0;
-    if (QFileInfo(target).isSymLink())
+    if (!exists && QFileInfo(target).isSymLink())
         error = ELOOP;
     else if (exists && S_ISDIR(existing.st_mode))
         error = EISDIR;
-    else if (exists && ::faccessat(AT_FDCWD, QFile::encodeName(target).constData(), W_OK, AT_EACCESS) != 0)
+    else if (exists && ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) != 0)
         error = errno; // a file that the user protects stays, although its folder would allow to replace it
     else if (exists && !S_ISREG(existing.st_mode))
-        error = writeInto(target, bytes);
+        error = writeInto(path, bytes);
     else
         error = replace(target, bytes, exists ? std::optional<mode_t>(existing.st_mode & 0777) : std::nullopt);
     if (error != 0)
