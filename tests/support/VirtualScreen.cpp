@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/VirtualScreen.h"
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace tessaly::test {
+
+void endWithThisProcess(QProcess &process)
+{
+    process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+}
 
 VirtualScreen::VirtualScreen(const QString &geometry)
 {
+    endWithThisProcess(m_server);
     // The server picks a free number and prints it when it is ready for clients.
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.start(QStringLiteral("Xvfb"),

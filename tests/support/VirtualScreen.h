@@ -6,6 +6,9 @@
 
 namespace tessaly::test {
 
+/// Before the start of a process: it shall not outlive this one, however this one ends.
+void endWithThisProcess(QProcess &process);
+
 /// An X server without a monitor, alive as long as the object.
 class VirtualScreen {
 public:

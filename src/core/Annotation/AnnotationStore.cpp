@@ -69,7 +69,8 @@ void AnnotationStore::recordIf(Undo undo)
 {
     if (undo == Undo::Skip)
         return;
-    m_history.record({ m_content, m_hasUnsavedChanges });
+    if (!m_isStepOpen)
+        m_history.record({ m_content, m_hasUnsavedChanges });
     m_hasUnsavedChanges = true;
 }
 
@@ -83,8 +84,12 @@ void AnnotationStore::takeOver(std::optional<UndoHistory::Step> step)
 {
     if (!step)
         return;
+    m_isStepOpen = false;
+    const bool samePicture = m_content.image.pointSize == step->content.image.pointSize;
     m_content = std::move(step->content);
     m_selectedID.reset();
+    if (m_isCropping && !samePicture)
+        cropWholePicture();
     Q_EMIT changed();
 }
 
@@ -182,17 +187,6 @@ void AnnotationStore::activate(Tool tool)
 }
 
 void AnnotationStore::setCropRect(const QRectF &rect) { assign(m_cropRect, rect); }
-void AnnotationStore::setCropAspect(CropAspect aspect) { assign(m_cropAspect, aspect); }
-void AnnotationStore::setCropLock(bool locked) { assign(m_cropLock, locked); }
-
-void AnnotationStore::beginCrop()
-{
-    m_isCropping = true;
-    m_cropRect = QRectF({ 0, 0 }, m_content.image.pointSize);
-    m_cropAspect = CropAspect::Free;
-    m_cropLock = false;
-    Q_EMIT changed();
-}
 
 void AnnotationStore::setResizing(bool open) { assign(m_isResizing, open); }
 void AnnotationStore::setSharpening(bool open) { assign(m_isSharpening, open); }

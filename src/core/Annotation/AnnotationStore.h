@@ -5,6 +5,7 @@
 #include "core/Annotation/ToolStyle.h"
 #include "core/Annotation/UndoHistory.h"
 #include "core/Frame/FrameLayout.h"
+#include "core/Imaging/ImageEdit.h"
 
 #include <QObject>
 #include <QUrl>
@@ -61,6 +62,9 @@ public:
     bool canUndo() const { return m_history.canUndo(); }
     bool canRedo() const { return m_history.canRedo(); }
 
+    /// While a step is held open, further changes of marks belong to it. Undo, redo and edits of the picture end that.
+    void setStepOpen(bool open) { m_isStepOpen = open; }
+
     /// Takes back the creation of a mark that turned out empty: its step is forgotten, and with it that there were
     /// unsaved changes, unless there were some before.
     void cancelLastChange(const QUuid &removing);
@@ -93,13 +97,42 @@ public:
     bool isCropping() const { return m_isCropping; }
     const QRectF &cropRect() const { return m_cropRect; }
     CropAspect cropAspect() const { return m_cropAspect; }
-    bool cropLock() const { return m_cropLock; }
+    bool cropLock() const { return m_lockedCropRatio.has_value(); }
+
+    /// Width to height that the crop rectangle keeps: that of the constraint, else the one that is locked.
+    std::optional<double> cropRatio() const;
+
     void setCropRect(const QRectF &rect);
+
+    /// The rectangle takes the ratio on where it is; a free one stays as it is.
     void setCropAspect(CropAspect aspect);
+
+    /// Locks the ratio that the rectangle has now.
     void setCropLock(bool locked);
+
+    /// Sets one side of the rectangle, as far as the picture reaches. Where a ratio is kept, the other side follows.
+    void setCropWidth(int pixels);
+    void setCropHeight(int pixels);
 
     /// Enters crop mode over the whole picture, free of any ratio.
     void beginCrop();
+
+    /// Cuts the picture to the crop rectangle, its sides moved to whole pixels, as one undo step and leaves crop mode
+    /// for selecting. The sentence for the user when the rectangle cannot be cut out; then nothing changes.
+    Outcome applyCrop();
+    void cancelCrop();
+
+    /// Whole edits of the picture, each one undo step. Every mark stays on its content. An edit that cannot be made, or
+    /// that makes no difference, leaves no step.
+    void rotate(bool clockwise);
+    void flipHorizontal();
+    void flipVertical();
+    void resize(int toPixelWidth, int height);
+    void sharpen(double amount);
+
+    /// The same for an edit whose picture was computed elsewhere: `result` is what applied() makes of the present
+    /// image(). Undo relies on that.
+    void commit(const ImageEdit &edit, RasterImage result);
 
     bool isResizing() const { return m_isResizing; }
     bool isSharpening() const { return m_isSharpening; }
@@ -125,16 +158,23 @@ private:
     void recordIf(Undo undo);
     void takeOver(std::optional<UndoHistory::Step> step);
     void removeMark(const QUuid &id);
+    void cropWholePicture();
+    void fitCropToRatio();
+    void resizeCrop(QSizeF size);
+    void leaveCrop();
+    void make(const ImageEdit &edit);
+    bool takeEdit(const ImageEdit &edit, RasterImage result);
 
     Snapshot m_content;
     UndoHistory m_history;
+    bool m_isStepOpen = false;
     std::optional<QUuid> m_selectedID;
     ToolStyle m_toolStyle;
     Tool m_tool = Tool::Select;
     bool m_isCropping = false;
     QRectF m_cropRect;
     CropAspect m_cropAspect = CropAspect::Free;
-    bool m_cropLock = false;
+    std::optional<double> m_lockedCropRatio;
     bool m_isResizing = false;
     bool m_isSharpening = false;
     bool m_hasUnsavedChanges = false;

@@ -76,14 +76,18 @@ QString Failure::description() const
     return QCoreApplication::translate("TessalyDocument", "The document is damaged or incomplete.");
 }
 
-Result<Package, Failure> package(const AnnotationStore &store)
+Source source(const AnnotationStore &store) { return { documentOf(store), FlattenService::composition(store) }; }
+
+Result<Package, Failure> package(const AnnotationStore &store) { return package(source(store)); }
+
+Result<Package, Failure> package(const Source &source)
 {
-    auto imagePng = encodeImage(store.image(), ExportFormat::Png, {});
+    auto imagePng = encodeImage(source.finished.image, ExportFormat::Png, {});
     if (!imagePng)
         return damaged(imagePng.failure().message);
-    const auto finished = FlattenService::flatten(store);
+    const auto finished = FlattenService::flatten(source.finished);
     auto thumbnail = finished ? thumbnailPng(*finished) : std::nullopt;
-    auto made = package(documentOf(store), std::move(*imagePng), std::move(thumbnail));
+    auto made = package(source.document, std::move(*imagePng), std::move(thumbnail));
     if (!made)
         return damaged(made.failure().message);
     return std::move(*made);

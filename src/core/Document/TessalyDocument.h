@@ -3,6 +3,7 @@
 
 #include "core/Annotation/AnnotationDocument.h"
 #include "core/Imaging/ImageReading.h"
+#include "core/Rendering/FrameComposition.h"
 
 namespace tessaly {
 
@@ -37,7 +38,15 @@ struct Failure {
     bool operator==(const Failure &other) const { return kind == other.kind && version == other.version; }
 };
 
+/// All of a capture that a package is made of, as it is at one moment: a value that another thread may take.
+struct Source {
+    AnnotationDocument document;
+    FrameComposition finished; ///< holds the picture
+};
+Source source(const AnnotationStore &store);
+
 /// The package of an open capture. Without a thumbnail it is still whole.
+Result<Package, Failure> package(const Source &source);
 Result<Package, Failure> package(const AnnotationStore &store);
 
 Result<Package> package(

@@ -6,17 +6,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 
 namespace tessaly {
 
-QString dragFileName(const Clock &clock)
+/// Writes the only file of a folder.
+static Result<QString> writeAlone(const QByteArray &bytes, const QString &fileName, const QString &folderPath)
 {
-    return QStringLiteral("Tessaly ") + QLocale::c().toString(clock.now(), u"yyyy-MM-dd 'at' HH.mm.ss");
-}
-
-Result<QString> writeDragFile(const QByteArray &bytes, const QString &fileName, const QString &temporaryFolder)
-{
-    QDir folder(QDir(temporaryFolder).filePath(QStringLiteral("Drag")));
+    QDir folder(folderPath);
     folder.removeRecursively();
     if (!folder.mkpath(QStringLiteral(".")))
         return Failure {
@@ -26,6 +23,27 @@ Result<QString> writeDragFile(const QByteArray &bytes, const QString &fileName, 
     if (const Outcome written = SafeFile::write(path, bytes); !written)
         return written.failure();
     return path;
+}
+
+QString dragFileName(const Clock &clock)
+{
+    return QStringLiteral("Tessaly ") + QLocale::c().toString(clock.now(), u"yyyy-MM-dd 'at' HH.mm.ss");
+}
+
+QString privateTemporaryFolder()
+{
+    // Qt refuses a runtime folder that others may enter.
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/tessaly");
+}
+
+Result<QString> writeDragFile(const QByteArray &bytes, const QString &fileName, const QString &temporaryFolder)
+{
+    return writeAlone(bytes, fileName, QDir(temporaryFolder).filePath(QStringLiteral("Drag")));
+}
+
+Result<QString> writeShareFile(const QByteArray &bytes, const QString &fileName, const QString &temporaryFolder)
+{
+    return writeAlone(bytes, fileName, QDir(temporaryFolder).filePath(QStringLiteral("Share")));
 }
 
 } // namespace tessaly

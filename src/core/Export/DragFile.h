@@ -10,8 +10,14 @@ namespace tessaly {
 /// language.
 QString dragFileName(const Clock &clock);
 
+/// The folder of this user alone for files that other programs fetch; it lasts at most until the user logs out.
+QString privateTemporaryFolder();
+
 /// Writes `bytes` as `fileName` into the folder "Drag" of `temporaryFolder`, which is emptied first: only the last drag
 /// is kept. `temporaryFolder` belongs to the user alone. The path that was written.
 Result<QString> writeDragFile(const QByteArray &bytes, const QString &fileName, const QString &temporaryFolder);
+
+/// The same in the folder "Share", for a file that another program is asked to open.
+Result<QString> writeShareFile(const QByteArray &bytes, const QString &fileName, const QString &temporaryFolder);
 
 } // namespace tessaly

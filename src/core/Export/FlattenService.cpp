@@ -22,29 +22,36 @@ FrameComposition composition(const AnnotationStore &store)
     return composition;
 }
 
-std::optional<RasterImage> flatten(const AnnotationStore &store, int threads)
+std::optional<RasterImage> flatten(const FrameComposition &framed, int threads)
 {
-    if (store.image().isEmpty())
+    if (framed.image.isEmpty())
         return std::nullopt;
-    FrameComposition framed = composition(store);
-    const double scale = store.pixelScale();
-    const QSizeF pointSize = framed.layout.canvasSize;
+    const double scale = framed.image.pixelScale();
     QImage pixels = framed.rendered(scale, threads > 0 ? threads : Parallel::defaultThreadCount());
     if (pixels.isNull())
         return std::nullopt;
-    return RasterImage { std::move(pixels), pointSize };
+    return RasterImage { std::move(pixels), framed.layout.canvasSize };
+}
+
+std::optional<RasterImage> flatten(const AnnotationStore &store, int threads)
+{
+    return flatten(composition(store), threads);
 }
 
 std::optional<RasterImage> flattenOrAlert(const AnnotationStore &store, Alerts &alerts)
 {
     auto image = flatten(store);
-    if (!image) {
-        alerts.warn(QCoreApplication::translate("FlattenService", "Couldn't prepare the image"),
-            QCoreApplication::translate("FlattenService",
-                "The image couldn't be rendered with its annotations, so nothing was exported. Your work is still "
-                "open — try again, or crop the image to make it smaller."));
-    }
+    if (!image)
+        alertOfFailure(alerts);
     return image;
+}
+
+void alertOfFailure(Alerts &alerts)
+{
+    alerts.warn(QCoreApplication::translate("FlattenService", "Couldn't prepare the image"),
+        QCoreApplication::translate("FlattenService",
+            "The image couldn't be rendered with its annotations, so nothing was exported. Your work is still "
+            "open — try again, or crop the image to make it smaller."));
 }
 
 } // namespace tessaly::FlattenService

@@ -21,8 +21,14 @@ std::optional<RasterImage> flatten(const AnnotationStore &store, int threads = 0
 /// The same for an export that the user asked for: says so when there is no picture.
 std::optional<RasterImage> flattenOrAlert(const AnnotationStore &store, Alerts &alerts);
 
-/// The framed view of a capture.
+/// The framed view of a capture: a value that another thread may take, whatever becomes of the store.
 FrameComposition composition(const AnnotationStore &store);
+
+/// The finished picture of such a view, as above. Any thread.
+std::optional<RasterImage> flatten(const FrameComposition &framed, int threads = 0);
+
+/// Says that there is no finished picture.
+void alertOfFailure(Alerts &alerts);
 
 } // namespace FlattenService
 

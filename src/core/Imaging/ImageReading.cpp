@@ -2,12 +2,14 @@
 #include "core/Imaging/ImageReading.h"
 
 #include "core/Imaging/PictureEnd.h"
+#include "core/Imaging/PngDecoder.h"
 #include "core/Imaging/ResolutionRecord.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QCoreApplication>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -30,17 +32,41 @@ QString tr(const char *text) { return QCoreApplication::translate("ImageReading"
 
 Failure damaged(const QString &name) { return { tr("%1 is damaged or incomplete.").arg(name) }; }
 
+bool isKnown(const QByteArray &format)
+{
+    return std::ranges::find(knownFormats, QByteArrayView(format)) != knownFormats.end();
+}
+
+struct Header {
+    QByteArray format;
+    QSize pixelSize; ///< empty for a format that is not known
+};
+
+/// What the file says of itself. Qt loads the plug-ins of all formats to find out, which takes longer than to decode a
+/// PNG of a whole screen; so those are known without it.
+Header headerOf(QImageReader &reader, const QByteArray &bytes)
+{
+    constexpr qsizetype sizeOffset = 16; // after the signature, a length and "IHDR"
+    if (!bytes.startsWith("\x89PNG\r\n\x1a\n") || bytes.size() < sizeOffset + 8) {
+        const QByteArray format = reader.format();
+        return { format, isKnown(format) ? reader.size() : QSize() };
+    }
+    reader.setAutoDetectImageFormat(false);
+    reader.setFormat("png");
+    const auto number = [&](qsizetype offset) { return qFromBigEndian<qint32>(bytes.constData() + offset); };
+    return { "png", QSize(number(sizeOffset), number(sizeOffset + 4)) };
+}
+
 /// Whether what `reader` reads from is all there and of an allowed size.
 Outcome checkHeader(QImageReader &reader, const QByteArray &bytes, const QString &name, const ImageReadOptions &options)
 {
     if (bytes.isEmpty())
         return Failure { tr("%1 is empty.").arg(name) };
-    const QByteArray format = reader.format();
-    if (std::ranges::find(knownFormats, QByteArrayView(format)) == knownFormats.end())
+    const auto [format, size] = headerOf(reader, bytes);
+    if (!isKnown(format))
         return Failure { tr("%1 is not a picture of a format that can be read.").arg(name) };
     if (!hasWholePicture(bytes))
         return damaged(name);
-    const QSize size = reader.size();
     if (size.isEmpty())
         return damaged(name);
     if (qint64(size.width()) * size.height() > options.maxPixels) {
@@ -119,6 +145,13 @@ Result<QByteArray> readWholeFile(const QString &path, const ImageReadOptions &op
 
 Result<RasterImage> readImage(const QByteArray &bytes, const QString &name, const ImageReadOptions &options)
 {
+    const auto pixelsPerPoint
+        = [&] { return options.pixelsPerPoint.value_or(ResolutionRecord::pixelsPerPoint(bytes)); };
+    if (QImage pixels = decodePng(bytes, options.maxPixels); !pixels.isNull())
+        return RasterImage::fromPixels(std::move(pixels), pixelsPerPoint());
+    if (!options.withPlugIns)
+        return Failure { tr("%1 is not a picture of a format that can be read.").arg(name) };
+
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -133,8 +166,7 @@ Result<RasterImage> readImage(const QByteArray &bytes, const QString &name, cons
     QImage pixels = reader.read();
     if (pixels.isNull())
         return damaged(name);
-    const double scale = options.pixelsPerPoint.value_or(ResolutionRecord::pixelsPerPoint(bytes));
-    return RasterImage::fromPixels(inSrgb(std::move(pixels)), scale);
+    return RasterImage::fromPixels(inSrgb(std::move(pixels)), pixelsPerPoint());
 }
 
 Outcome checkImage(const QByteArray &bytes, const QString &name, const ImageReadOptions &options)

@@ -17,6 +17,10 @@ struct ImageReadOptions {
 
     /// The most pixels that are read: 512 MiB of them at 4 bytes each.
     qint64 maxPixels = qint64(512) * 1024 * 1024 / 4;
+
+    /// Qt's readers are plug-ins, which need an application that has been made. Without them only PNG files of the
+    /// common kinds can be read; any other fails, with a sentence that says nothing of the file.
+    bool withPlugIns = true;
 };
 
 /// Decodes a picture of any format that Qt reads, turned upright and converted to sRGB. The size is checked before any

@@ -1,28 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/PixelMemory.h"
 
-#include <cstdlib>
 #include <sys/mman.h>
 
 namespace tessaly::PixelMemory {
 
+static constexpr std::size_t hugePageBytes = std::size_t(2) << 20;
+
+Bytes allocateBytes(std::size_t count)
+{
+    if (count < 2 * hugePageBytes)
+        return Bytes(static_cast<uchar *>(std::malloc(std::max<std::size_t>(count, 1))));
+    const std::size_t whole = (count + hugePageBytes - 1) / hugePageBytes * hugePageBytes;
+    Bytes bytes(static_cast<uchar *>(std::aligned_alloc(hugePageBytes, whole)));
+    // Advice only: without huge pages the memory works as well, more slowly.
+    if (bytes)
+        ::madvise(bytes.get(), count, MADV_HUGEPAGE);
+    return bytes;
+}
+
 QImage allocate(QSize pixelSize, QImage::Format format)
 {
-    constexpr size_t hugePageBytes = size_t(2) << 20;
     if (pixelSize.isEmpty())
         return {};
-    const size_t bytesPerLine
-        = (size_t(pixelSize.width()) * QImage::toPixelFormat(format).bitsPerPixel() / 8 + 3) / 4 * 4;
-    const size_t bytes = bytesPerLine * size_t(pixelSize.height());
-    if (bytes < 2 * hugePageBytes)
+    const std::size_t bytesPerLine
+        = (std::size_t(pixelSize.width()) * QImage::toPixelFormat(format).bitsPerPixel() / 8 + 3) / 4 * 4;
+    const std::size_t count = bytesPerLine * std::size_t(pixelSize.height());
+    if (count < 2 * hugePageBytes)
         return QImage(pixelSize, format);
-    void *memory = std::aligned_alloc(hugePageBytes, (bytes + hugePageBytes - 1) / hugePageBytes * hugePageBytes);
-    if (!memory)
+    Bytes bytes = allocateBytes(count);
+    if (!bytes)
         return {};
-    // Advice only: without huge pages the memory works as well, more slowly.
-    ::madvise(memory, bytes, MADV_HUGEPAGE);
-    return QImage(static_cast<uchar *>(memory), pixelSize.width(), pixelSize.height(), qsizetype(bytesPerLine), format,
-        std::free, memory);
+    uchar *memory = bytes.release();
+    return QImage(memory, pixelSize.width(), pixelSize.height(), qsizetype(bytesPerLine), format, std::free, memory);
 }
 
 } // namespace tessaly::PixelMemory

@@ -3,10 +3,21 @@
 
 #include <QImage>
 
+#include <cstdlib>
+#include <memory>
+
 namespace tessaly::PixelMemory {
 
-/// A picture of undefined content for large work. Its memory is asked for in huge pages where the system has them:
-/// fresh small pages cost more than filling the picture. Null when the size is empty or the memory is refused.
+struct Free {
+    void operator()(uchar *bytes) const { std::free(bytes); }
+};
+using Bytes = std::unique_ptr<uchar[], Free>;
+
+/// Memory of undefined content for large work. It is asked for in huge pages where the system has them: fresh small
+/// pages cost more than filling them. Much of it goes back to the system at the end. Null when it is refused.
+Bytes allocateBytes(std::size_t count);
+
+/// A picture of undefined content in such memory. Null when the size is empty or the memory is refused.
 QImage allocate(QSize pixelSize, QImage::Format format);
 
 } // namespace tessaly::PixelMemory

@@ -47,6 +47,16 @@ inline constexpr SettingKey<Bytes> frameStyle { "frameStyle", {} };
 inline constexpr SettingKey<bool> watermarkLastOn { "watermarkLastOn", false };
 inline constexpr SettingKey<Bytes> watermarkStyle { "watermarkStyle", {} };
 
+/// Of the sharpen dialog, in percent.
+inline constexpr SettingKey<double> sharpenAmount { "sharpenAmount", 50.0 };
+inline constexpr SettingKey<bool> showOptionsBar { "showOptionsBar", true };
+/// The parts of the tool bar that are left out: their names, divided by blanks.
+inline constexpr SettingKey<const char *> toolBarHiddenParts { "toolBarHiddenParts", "" };
+inline constexpr SettingKey<bool> liveTextEnabled { "liveTextEnabled", false };
+inline constexpr SettingKey<const char *> appearance { "appearance", "system" };
+inline constexpr SettingKey<Bytes> savedAnnotationStyles { "savedAnnotationStyles", {} };
+inline constexpr SettingKey<Bytes> recentDocuments { "recentDocuments", {} };
+
 } // namespace SettingKeys
 
 } // namespace tessaly

@@ -19,25 +19,28 @@ static QBrush gradientBrush(const QStringList &colors, QSizeF canvasSize)
     return gradient;
 }
 
-FrameBackground::FrameBackground(const FrameStyle &frame, QSizeF canvasSize, bool checkerboard) :
+FrameBackground::FrameBackground(
+    const std::optional<FrameStyle> &frame, QSizeF canvasSize, const std::optional<Checkerboard> &checkerboard) :
     m_canvasSize(canvasSize)
 {
-    const bool isGradient = frame.background == FrameBackgroundKind::Gradient;
-    if (isGradient && !frame.gradientColors.isEmpty())
-        m_brush = gradientBrush(frame.gradientColors, canvasSize);
-    else if (frame.background == FrameBackgroundKind::Solid)
-        m_brush = ColorHex::toColor(frame.solidHex);
-    m_checkerboard = checkerboard && frame.background == FrameBackgroundKind::Transparent;
+    const auto kind = frame ? frame->background : FrameBackgroundKind::Transparent;
+    if (kind == FrameBackgroundKind::Gradient && !frame->gradientColors.isEmpty())
+        m_brush = gradientBrush(frame->gradientColors, canvasSize);
+    else if (kind == FrameBackgroundKind::Solid)
+        m_brush = ColorHex::toColor(frame->solidHex);
+    if (m_brush.style() == Qt::NoBrush)
+        m_checkerboard = checkerboard;
     m_opaque = m_checkerboard || m_brush.isOpaque();
 }
 
-void FrameBackground::paint(QImage &image, const QRect &rows, double scale) const
+void FrameBackground::paint(QImage &image, const QRect &area, double scale, QPoint origin) const
 {
     QPainter painter(&image);
-    painter.setClipRect(rows);
+    painter.translate(-origin);
+    painter.setClipRect(area);
     if (!m_opaque) {
         painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.fillRect(rows, Qt::transparent);
+        painter.fillRect(area, Qt::transparent);
     }
     painter.scale(scale, scale);
     const QRectF canvas(QPointF(), m_canvasSize);
@@ -47,10 +50,14 @@ void FrameBackground::paint(QImage &image, const QRect &rows, double scale) cons
         return;
     }
     constexpr double cell = 8; // points
-    painter.fillRect(canvas, Qt::white);
-    for (int row = 0; row * cell < m_canvasSize.height(); ++row) {
-        for (int column = row % 2; column * cell < m_canvasSize.width(); column += 2)
-            painter.fillRect(QRectF(column * cell, row * cell, cell, cell).intersected(canvas), QColor(226, 226, 230));
+    const auto cellAt = [&](int pixel) { return int(pixel / scale / cell); };
+    painter.fillRect(canvas, m_checkerboard->light);
+    if (cell * scale < 1) // smaller than can be seen
+        return;
+    for (int row = cellAt(area.top()); row <= cellAt(area.bottom()) + 1; ++row) {
+        const int first = cellAt(area.left());
+        for (int column = first + (first + row) % 2; column <= cellAt(area.right()) + 1; column += 2)
+            painter.fillRect(QRectF(column * cell, row * cell, cell, cell).intersected(canvas), m_checkerboard->dark);
     }
 }
 

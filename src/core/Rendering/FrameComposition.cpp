@@ -43,7 +43,9 @@ QImage framed(
     const FrameComposition &composition, const FrameStyle &frame, const QImage &content, double scale, int threads)
 {
     const FrameLayout &layout = composition.layout;
-    const FrameBackground background(frame, layout.canvasSize, composition.forEditor);
+    using Checkerboard = FrameBackground::Checkerboard;
+    const FrameBackground background(
+        frame, layout.canvasSize, composition.forEditor ? std::optional(Checkerboard()) : std::nullopt);
     const FrameLayout::Shadow shadow = FrameLayout::shadowMetrics(frame, layout);
     const QPoint origin = (layout.imageOrigin * scale).toPoint();
     const double cornerRadius = frame.cornerRadius * scale;

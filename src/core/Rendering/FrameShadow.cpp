@@ -55,24 +55,32 @@ QImage roundedRectangle(QSize size, const QPainterPath &shape, QSize removed, in
 
 } // namespace
 
-FrameShadow::FrameShadow(const QImage &content, const QPainterPath &shape, double cornerRadius, double radius) :
-    m_size(content.size())
+FrameShadow::FrameShadow(const QImage &content, const QPainterPath &shape, double cornerRadius, double radius)
 {
+    if (!content.hasAlphaChannel()) {
+        *this = FrameShadow(content.size(), shape, cornerRadius, radius);
+        return;
+    }
     if (radius <= 0 || content.isNull())
         return;
     m_spread = static_cast<int>(std::ceil(3 * radius)) + 2;
-    if (content.hasAlphaChannel()) {
-        m_coverage = ImageEffects::shapedShadow(alphaWithin(content, shape, m_spread), radius);
-        m_middle = { m_coverage.width() / 2, m_coverage.height() / 2 };
-    } else {
-        // Past a corner and its blur all columns, and all rows, are alike; a corner bends over up to twice its radius.
-        const double bend = std::min(2 * cornerRadius, double(std::max(content.width(), content.height())));
-        const int corner = 2 * (m_spread + static_cast<int>(std::ceil(bend)) + 2) + 1;
-        const QSize kept = content.size().boundedTo({ corner, corner });
-        m_coverage = ImageEffects::shapedShadow(roundedRectangle(kept, shape, content.size() - kept, m_spread), radius);
-        m_middle = { m_spread + kept.width() / 2, m_spread + kept.height() / 2 };
-    }
-    m_size += QSize(2 * m_spread, 2 * m_spread);
+    m_coverage = ImageEffects::shapedShadow(alphaWithin(content, shape, m_spread), radius);
+    m_middle = { m_coverage.width() / 2, m_coverage.height() / 2 };
+    m_size = content.size() + QSize(2 * m_spread, 2 * m_spread);
+}
+
+FrameShadow::FrameShadow(QSize size, const QPainterPath &shape, double cornerRadius, double radius)
+{
+    if (radius <= 0 || size.isEmpty())
+        return;
+    m_spread = static_cast<int>(std::ceil(3 * radius)) + 2;
+    // Past a corner and its blur all columns, and all rows, are alike; a corner bends over up to twice its radius.
+    const double bend = std::min(2 * cornerRadius, double(std::max(size.width(), size.height())));
+    const int corner = 2 * (m_spread + static_cast<int>(std::ceil(bend)) + 2) + 1;
+    const QSize kept = size.boundedTo({ corner, corner });
+    m_coverage = ImageEffects::shapedShadow(roundedRectangle(kept, shape, size - kept, m_spread), radius);
+    m_middle = { m_spread + kept.width() / 2, m_spread + kept.height() / 2 };
+    m_size = size + QSize(2 * m_spread, 2 * m_spread);
 }
 
 int FrameShadow::sourceColumn(int x) const
@@ -87,18 +95,19 @@ int FrameShadow::sourceRow(int y) const
     return y <= m_middle.y() ? y : std::max(y - repeated, m_middle.y());
 }
 
-void FrameShadow::blend(QImage &target, const QRect &rows, QPoint origin, double opacity) const
+void FrameShadow::blend(QImage &target, const QRect &area, QPoint origin, double opacity) const
 {
     if (m_coverage.isNull())
         return;
-    const QRect area = QRect(origin - QPoint(m_spread, m_spread), m_size).intersected(rows);
+    const QPoint corner = origin - QPoint(m_spread, m_spread) * m_magnification;
+    const QRect shaded = QRect(corner, m_size * m_magnification).intersected(area);
     const unsigned strength = static_cast<unsigned>(std::lround(opacity * 256));
     const bool translucent = target.hasAlphaChannel();
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        const uchar *coverage = m_coverage.constScanLine(sourceRow(y - origin.y() + m_spread));
+    for (int y = shaded.top(); y <= shaded.bottom(); ++y) {
+        const uchar *coverage = m_coverage.constScanLine(sourceRow((y - corner.y()) / m_magnification));
         auto *row = reinterpret_cast<QRgb *>(target.scanLine(y));
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const unsigned dark = (coverage[sourceColumn(x - origin.x() + m_spread)] * strength + 128) >> 8;
+        for (int x = shaded.left(); x <= shaded.right(); ++x) {
+            const unsigned dark = (coverage[sourceColumn((x - corner.x()) / m_magnification)] * strength + 128) >> 8;
             const auto dimmed = [&](int value) { return int((unsigned(value) * (255 - dark) + 127) / 255); };
             const int alpha = translucent ? dimmed(qAlpha(row[x])) + int(dark) : 255;
             row[x] = qRgba(dimmed(qRed(row[x])), dimmed(qGreen(row[x])), dimmed(qBlue(row[x])), alpha);

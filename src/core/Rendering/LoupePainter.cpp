@@ -11,7 +11,7 @@
 
 namespace tessaly {
 
-LoupePainter::LoupePainter(const Annotation &mark, const PixelGrid &grid, const QRectF &canvas) :
+LoupePainter::LoupePainter(const Annotation &mark, const PixelGrid &grid, const QRectF &canvas, const QRect &shown) :
     m_mark(mark),
     m_grid(grid.isUpright() ? grid : PixelGrid::scaledBy(grid.scale()))
 {
@@ -23,6 +23,8 @@ LoupePainter::LoupePainter(const Annotation &mark, const PixelGrid &grid, const 
     // One pixel more on each side: the shape's edge is smooth.
     m_pixels
         = m_seen.isEmpty() ? QRect() : m_grid.touchedPixels(mark.rect().intersected(canvas)).adjusted(-1, -1, 1, 1);
+    if (!shown.isEmpty())
+        m_pixels &= shown.adjusted(-1, -1, 1, 1);
 }
 
 QImage LoupePainter::magnifierContents(

@@ -13,8 +13,9 @@ namespace tessaly {
 /// A loupe: a magnified look at the capture and the marks below it.
 class LoupePainter {
 public:
-    /// The mark's numbers are in range. `canvas` is what there is to see, in points.
-    LoupePainter(const Annotation &mark, const PixelGrid &grid, const QRectF &canvas);
+    /// The mark's numbers are in range. `canvas` is what there is to see, in points; `shown` the pixels of the grid
+    /// that are painted, all of them when it is empty.
+    LoupePainter(const Annotation &mark, const PixelGrid &grid, const QRectF &canvas, const QRect &shown);
 
     /// The part of the canvas that is magnified, in points.
     QRectF seen() const { return m_seen; }

@@ -110,39 +110,42 @@ struct InMemory {
     {
         const QRect clip = clipOn(target.grid, step.clip, target.clip);
         if (target.fitted)
-            PixelBlend::fill(target.pixels, clip, step.fittedMask, step.color);
+            PixelBlend::fill(target.pixels, clip, step.fittedMask, step.color, target.origin);
         else
-            PixelBlend::fill(
-                target.pixels, clip, CoverageMask(target.grid.toPixels.map(step.outline), clip), step.color);
+            PixelBlend::fill(target.pixels, clip, CoverageMask(target.grid.toPixels.map(step.outline), clip),
+                step.color, target.origin);
     }
 
     void operator()(const PictureStep &step) const
     {
         if (target.fitted && !step.fittedPicture.isNull()) {
-            PixelBlend::draw(target.pixels, target.clip, step.fittedPicture, step.fittedPosition);
+            PixelBlend::draw(target.pixels, target.clip, step.fittedPicture, step.fittedPosition, target.origin);
             return;
         }
         QPainter painter(&target.pixels);
+        painter.translate(-target.origin);
         painter.setClipRect(target.clip);
         drawWith(painter, target.grid, step);
     }
 
     void operator()(const MultiplyStep &step) const
     {
-        PixelBlend::multiply(target.pixels, target.clip, target.grid.toPixels.mapRect(step.area), step.color);
+        PixelBlend::multiply(
+            target.pixels, target.clip, target.grid.toPixels.mapRect(step.area), step.color, target.origin);
     }
 
     void operator()(const CoverStep &step) const
     {
         QPainterPath whole;
         whole.addRect(target.grid.touchedPixels(step.area).intersected(target.clip));
-        PixelBlend::fill(target.pixels, target.clip, CoverageMask(whole, target.clip), step.color);
+        PixelBlend::fill(target.pixels, target.clip, CoverageMask(whole, target.clip), step.color, target.origin);
     }
 
     void operator()(const LensStep &step) const
     {
         const auto mode = step.picture.hasAlphaChannel() ? PixelBlend::Mode::Instead : PixelBlend::Mode::Over;
-        PixelBlend::fill(target.pixels, target.clip, step.fittedMask, step.picture, step.pixelPosition, mode);
+        PixelBlend::fill(
+            target.pixels, target.clip, step.fittedMask, step.picture, step.pixelPosition, mode, target.origin);
     }
 };
 

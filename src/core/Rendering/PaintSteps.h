@@ -89,6 +89,7 @@ struct PixelTarget {
     QRect clip; ///< no other pixel is touched
     PixelGrid grid;
     bool fitted = true; ///< the grid is the one that the marks were fitted to
+    QPoint origin = {}; ///< where the top-left pixel lies on the grid, in whose pixels the clip is given, too
 };
 
 void paint(const PreparedMark &mark, const PixelTarget &target);

@@ -97,9 +97,9 @@ double covered(int index, double low, double high)
 
 } // namespace
 
-void multiply(QImage &image, const QRect &clip, const QRectF &area, const QColor &color)
+void multiply(QImage &image, const QRect &clip, const QRectF &area, const QColor &color, QPoint origin)
 {
-    const QRect touched = outwardRect(area).intersected(clip).intersected(image.rect());
+    const QRect touched = outwardRect(area).intersected(clip).intersected(image.rect().translated(origin));
     if (touched.isEmpty())
         return;
     const auto blend = image.hasAlphaChannel() ? multiplyTranslucent : multiplyOpaque;
@@ -107,13 +107,14 @@ void multiply(QImage &image, const QRect &clip, const QRectF &area, const QColor
     const int fullRight = std::clamp(int(std::floor(area.right() + 1e-6)), fullLeft, touched.right() + 1);
     for (int y = touched.top(); y <= touched.bottom(); ++y) {
         const double rowCoverage = covered(y, area.top(), area.bottom());
-        uint8_t *row = image.scanLine(y);
+        uint8_t *row = image.scanLine(y - origin.y());
+        const auto at = [&](int x) { return row + qsizetype(x - origin.x()) * 4; };
         const auto edge = [&](int from, int to) {
             for (int x = from; x < to; ++x)
-                blend(row + x * 4, 1, premultiplied(color, rowCoverage * covered(x, area.left(), area.right())));
+                blend(at(x), 1, premultiplied(color, rowCoverage * covered(x, area.left(), area.right())));
         };
         edge(touched.left(), fullLeft);
-        blend(row + fullLeft * 4, fullRight - fullLeft, premultiplied(color, rowCoverage));
+        blend(at(fullLeft), fullRight - fullLeft, premultiplied(color, rowCoverage));
         edge(fullRight, touched.right() + 1);
     }
 }
@@ -157,51 +158,54 @@ void layOver(QRgb *row, const QRgb *source, int pixels, unsigned coverage, Mode 
     }
 }
 
-/// Calls `paint(row, x, length, coverage)` for what the mask and the clip have in common.
+/// Calls `paint(pixels, y, x, length, coverage)` for what the mask and the clip have in common.
 template <class Paint>
-void forRuns(QImage &image, const QRect &clip, const CoverageMask &mask, Paint paint)
+void forRuns(QImage &image, const QRect &clip, const CoverageMask &mask, QPoint origin, Paint paint)
 {
-    const QRect bounds = clip.intersected(image.rect());
+    const QRect bounds = clip.intersected(image.rect().translated(origin));
     const int end = std::min(mask.endRow(), bounds.bottom() + 1);
     for (int y = std::max(mask.firstRow(), bounds.top()); y < end; ++y) {
-        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y - origin.y()));
         const auto [first, last] = mask.row(y);
         for (const CoverageMask::Run *run = first; run != last; ++run) {
             const int from = std::max(run->x, bounds.left());
             const int to = std::min(run->x + int(run->length), bounds.right() + 1);
             if (from < to)
-                paint(row, y, from, to - from, unsigned(run->coverage));
+                paint(row + (from - origin.x()), y, from, to - from, unsigned(run->coverage));
         }
     }
 }
 
 } // namespace
 
-void fill(QImage &image, const QRect &clip, const CoverageMask &mask, const QColor &color)
+void fill(QImage &image, const QRect &clip, const CoverageMask &mask, const QColor &color, QPoint origin)
 {
     const QRgb source = qPremultiply(color.rgba());
-    forRuns(image, clip, mask, [source](QRgb *row, int, int x, int length, unsigned coverage) {
-        layOver(row + x, length, coverage == 255 ? source : scaled(source, coverage));
+    forRuns(image, clip, mask, origin, [source](QRgb *pixels, int, int, int length, unsigned coverage) {
+        layOver(pixels, length, coverage == 255 ? source : scaled(source, coverage));
     });
 }
 
-void fill(QImage &image, const QRect &clip, const CoverageMask &mask, const QImage &picture, QPoint position, Mode mode)
+void fill(QImage &image, const QRect &clip, const CoverageMask &mask, const QImage &picture, QPoint position, Mode mode,
+    QPoint origin)
 {
     const QRect lies(position, picture.size());
-    forRuns(image, clip.intersected(lies), mask, [&](QRgb *row, int y, int x, int length, unsigned coverage) {
-        const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y - position.y())) + (x - position.x());
-        if (coverage == 255 && (mode == Mode::Instead || !picture.hasAlphaChannel()))
-            std::copy_n(from, length, row + x);
-        else
-            layOver(row + x, from, length, coverage, mode, picture.hasAlphaChannel() ? 0 : opaque);
-    });
+    forRuns(
+        image, clip.intersected(lies), mask, origin, [&](QRgb *pixels, int y, int x, int length, unsigned coverage) {
+            const auto *from
+                = reinterpret_cast<const QRgb *>(picture.constScanLine(y - position.y())) + (x - position.x());
+            if (coverage == 255 && (mode == Mode::Instead || !picture.hasAlphaChannel()))
+                std::copy_n(from, length, pixels);
+            else
+                layOver(pixels, from, length, coverage, mode, picture.hasAlphaChannel() ? 0 : opaque);
+        });
 }
 
-void draw(QImage &image, const QRect &clip, const QImage &picture, QPoint position)
+void draw(QImage &image, const QRect &clip, const QImage &picture, QPoint position, QPoint origin)
 {
-    const QRect shown = QRect(position, picture.size()).intersected(clip).intersected(image.rect());
+    const QRect shown = QRect(position, picture.size()).intersected(clip).intersected(image.rect().translated(origin));
     for (int y = shown.top(); y <= shown.bottom(); ++y) {
-        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y)) + shown.left();
+        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y - origin.y())) + (shown.left() - origin.x());
         const auto *from
             = reinterpret_cast<const QRgb *>(picture.constScanLine(y - position.y())) + (shown.left() - position.x());
         if (picture.hasAlphaChannel())

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Rendering/CaptureSample.h"
-#include "core/Rendering/LoupePainter.h"
-#include "core/Rendering/PaintSteps.h"
-#include "core/Rendering/PixelGrid.h"
-
-#include <vector>
+#include "core/Rendering/MarkPreparation.h"
 
 class QPainter;
 
@@ -14,8 +9,8 @@ namespace tessaly {
 
 class AnnotationsCanvas;
 
-/// The marks of a canvas made ready for one grid of pixels: outlines, texts, decoded and obscured pictures, and what
-/// the loupes show. Painting it changes nothing, so that several threads may paint parts of it at once.
+/// The marks of a canvas made ready for one grid of pixels. Painting it changes nothing, so that several threads may
+/// paint parts of it at once.
 class PreparedCanvas {
 public:
     /// Everything is fitted to the pixels of a picture of `pixelSize` at `grid`; an empty size prepares for a painter
@@ -32,12 +27,10 @@ public:
     const CaptureSample &sample() const { return m_sample; }
 
 private:
-    class Preparation;
-
     PixelGrid m_grid;
     CaptureSample m_sample;
     PreparedMark m_spotlights;
-    std::vector<PreparedMark> m_marks;
+    std::vector<DrawnMark> m_marks;
 };
 
 } // namespace tessaly

@@ -2,6 +2,7 @@
 #include "core/Rendering/TextShaper.h"
 
 #include "core/Rendering/EmojiClusters.h"
+#include "core/Rendering/SourceLines.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -18,9 +19,6 @@ namespace {
 /// Texts are laid out at this size in pixels and then scaled. It is the size at which the emoji font's pictures are
 /// stored, so that they come out as they are.
 constexpr int layoutSize = 109;
-
-/// No mark shows more; a text of many megabytes in a file must not stop the program.
-constexpr qsizetype longestLine = 4000, mostLines = 2000;
 
 const QString emojiFamily = QStringLiteral("Noto Color Emoji");
 
@@ -57,16 +55,6 @@ QRect inkOf(const QImage &picture)
         bottom = y;
     }
     return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-QStringList linesOf(QString text)
-{
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-        .replace(u'\r', u'\n')
-        .replace(QChar::LineSeparator, u'\n');
-    // The emoji font knows keycaps by the digit and the cap, without the selector between them.
-    text.replace(QStringLiteral("\uFE0F\u20E3"), QStringLiteral("\u20E3"));
-    return text.replace(QChar::ParagraphSeparator, u'\n').split(u'\n').mid(0, mostLines);
 }
 
 } // namespace
@@ -116,9 +104,9 @@ const TextShape &TextShaper::shape(const QString &text, const TextFace &face)
     shape.capHeight = metrics.capHeight() / layoutSize;
     shape.lineHeight = metrics.height() / layoutSize;
     shape.outline.setFillRule(Qt::WindingFill);
-    const QStringList lines = linesOf(text);
+    const QList<SourceLine> lines = sourceLines(text);
     for (qsizetype index = 0; index < lines.size(); ++index)
-        addLine(lines[index].left(longestLine), font, { 0, double(index) * metrics.height() }, shape);
+        addLine(lines[index].shown, font, { 0, double(index) * metrics.height() }, shape);
     shape.outline = QTransform::fromScale(1.0 / layoutSize, 1.0 / layoutSize).map(shape.outline);
     shape.size.setHeight(double(lines.size()) * shape.lineHeight);
     shape.ink = shape.outline.boundingRect();
@@ -127,27 +115,79 @@ const TextShape &TextShaper::shape(const QString &text, const TextFace &face)
     return *m_shapes.insert(key, shape);
 }
 
-void TextShaper::addLine(const QString &line, const QFont &font, QPointF origin, TextShape &shape)
+QTextLine TextShaper::layOut(QTextLayout &layout)
 {
-    QTextLayout layout(line, font);
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setUseDesignMetrics(true);
     option.setWrapMode(QTextOption::NoWrap);
     option.setTabStopDistance(layoutSize * 2);
     layout.setTextOption(option);
-    layout.setFormats(emojiFormats(line, font));
+    layout.setFormats(emojiFormats(layout.text(), layout.font()));
     layout.beginLayout();
-    QTextLine set = layout.createLine();
-    if (!set.isValid())
-        return layout.endLayout();
-    set.setLineWidth(1e6);
+    QTextLine line = layout.createLine();
+    if (line.isValid())
+        line.setLineWidth(1e6);
     layout.endLayout();
+    return line;
+}
+
+void TextShaper::addLine(const QString &line, const QFont &font, QPointF origin, TextShape &shape)
+{
+    QTextLayout layout(line, font);
+    const QTextLine set = layOut(layout);
+    if (!set.isValid())
+        return;
     shape.size.setWidth(std::max(shape.size.width(), set.naturalTextWidth() / layoutSize));
     // The emoji's own metrics may move a line's baseline; all lines keep the text font's.
     const QPointF baseline(0, shape.ascent * layoutSize - set.ascent());
     const auto runs = layout.glyphRuns();
     for (const QGlyphRun &run : runs)
         addRun(run, origin + baseline, shape);
+}
+
+namespace {
+
+/// The edges of a line's characters, in units of the layout.
+void addCharacters(const SourceLine &source, const QTextLine &set, TextLines::Line &line)
+{
+    const auto edge
+        = [&](qsizetype position, QTextLine::Edge side) { return set.cursorToX(int(position), side) / layoutSize; };
+    for (const CharacterSpan &span : charactersOf(source.shown)) {
+        line.characters.push_back({ source.positionOf(span.start), edge(span.start, QTextLine::Leading),
+            edge(span.lastPart, QTextLine::Trailing) });
+    }
+    line.endX = edge(source.shown.size(), QTextLine::Leading);
+}
+
+} // namespace
+
+TextLines TextShaper::lines(const QString &text, const TextFace &face)
+{
+    const QFont font = fontOf(face);
+    TextLines result { .lines = {}, .lineHeight = QFontMetricsF(font).height() / layoutSize };
+    for (const SourceLine &source : sourceLines(text)) {
+        TextLines::Line &line = result.lines.emplace_back(TextLines::Line { source.start, source.end });
+        QTextLayout layout(source.shown, font);
+        const QTextLine set = layOut(layout);
+        if (!set.isValid())
+            continue;
+        addCharacters(source, set, line);
+        result.width = std::max({ result.width, set.naturalTextWidth() / layoutSize, line.endX });
+        for (const TextLines::Character &character : line.characters)
+            result.width = std::max({ result.width, character.leading, character.trailing });
+    }
+    return result;
+}
+
+void TextShaper::dropIfLarge()
+{
+    constexpr qsizetype manyTexts = 2000, manyGlyphs = 4000;
+    if (m_shapes.size() > manyTexts)
+        m_shapes.clear();
+    if (m_glyphOutlines.size() + m_colorGlyphs.size() > manyGlyphs) {
+        m_glyphOutlines.clear();
+        m_colorGlyphs.clear();
+    }
 }
 
 void TextShaper::addRun(const QGlyphRun &run, QPointF origin, TextShape &shape)

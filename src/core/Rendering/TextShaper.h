@@ -10,6 +10,11 @@
 #include <QRawFont>
 #include <QString>
 
+#include <vector>
+
+class QTextLayout;
+class QTextLine;
+
 namespace tessaly {
 
 /// Which face a text is set in.
@@ -38,12 +43,36 @@ struct TextShape {
     double lineHeight = 1;
 };
 
+/// Where the characters of a text lie when it is laid out at a size of 1 point. Positions are QString indices of the
+/// text as it was given; a character is what the user sees as one, such as an emoji of several code points.
+struct TextLines {
+    struct Character {
+        qsizetype position; ///< of its first code unit
+        double leading, trailing; ///< its edges in reading order; leading lies right of trailing where that goes left
+    };
+    struct Line {
+        qsizetype start = 0, end = 0; ///< end is where the line break stands, or the text's end
+        std::vector<Character> characters = {};
+        double endX = 0; ///< of a caret behind the last character
+    };
+    std::vector<Line> lines; ///< at least one
+    double width = 0; ///< of the widest line, blanks at its end included
+    double lineHeight = 1;
+};
+
 /// Sets texts, each only once. It needs a QGuiApplication, and keeps to the thread that made it.
 class TextShaper {
 public:
     const TextShape &shape(const QString &text, const TextFace &face);
 
+    /// The same layout as places for a caret; an empty text has one empty line.
+    TextLines lines(const QString &text, const TextFace &face);
+
+    /// Starts anew once it keeps more texts and glyphs than any capture shows. What shape() returned is invalid then.
+    void dropIfLarge();
+
 private:
+    static QTextLine layOut(QTextLayout &layout);
     const QString &systemFamily();
     QFont fontOf(const TextFace &face);
     void addLine(const QString &line, const QFont &font, QPointF origin, TextShape &shape);

@@ -2,20 +2,15 @@
 #include "core/Export/FlattenService.h"
 
 #include "core/Annotation/AnnotationStore.h"
-#include "core/Desktop/Alerts.h"
 #include "core/Preferences/Settings.h"
 #include "tests/support/DrawnMarks.h"
+#include "tests/support/FakeDesktop.h"
 
 #include <QTest>
 
 using namespace tessaly;
 
 namespace {
-
-struct RecordedAlerts final : Alerts {
-    QStringList messages;
-    void warn(const QString &message, const QString &) override { messages += message; }
-};
 
 std::optional<RasterImage> flattened(const Snapshot &snapshot, int threads = 2)
 {
@@ -69,9 +64,9 @@ private Q_SLOTS:
     void saysWhenThereIsNoPicture()
     {
         AnnotationStore empty(RasterImage {}, Settings { QString() });
-        RecordedAlerts alerts;
+        test::FakeAlerts alerts;
         QVERIFY(!FlattenService::flattenOrAlert(empty, alerts));
-        QCOMPARE(alerts.messages, QStringList { QStringLiteral("Couldn't prepare the image") });
+        QCOMPARE(alerts.shown, QStringList { QStringLiteral("Couldn't prepare the image") });
     }
 };
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/ImageReading.h"
+#include "tests/support/PngFile.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QTemporaryDir>
-#include <QtEndian>
 #include <QTest>
 
 #include <sys/stat.h>
-#include <zlib.h>
 
 using namespace tessaly;
 
@@ -32,25 +31,11 @@ QByteArray saved(const QImage &image, const char *format)
     return buffer.data();
 }
 
-QByteArray bigEndian(quint32 number)
-{
-    number = qToBigEndian(number);
-    return QByteArray(reinterpret_cast<const char *>(&number), 4);
-}
-
-QByteArray chunk(const QByteArray &type, const QByteArray &content)
-{
-    const QByteArray checked = type + content;
-    const auto sum = crc32(0, reinterpret_cast<const Bytef *>(checked.constData()), static_cast<uInt>(checked.size()));
-    return bigEndian(quint32(content.size())) + checked + bigEndian(quint32(sum));
-}
-
 /// A PNG file whose header claims a size; its data are those of a tiny picture.
 QByteArray pngClaiming(quint32 width, quint32 height)
 {
-    const QByteArray header = bigEndian(width) + bigEndian(height) + QByteArray("\x08\x02\x00\x00\x00", 5);
-    const QByteArray data = qCompress(QByteArray(4, '\0')).mid(4);
-    return "\x89PNG\r\n\x1a\n" + chunk("IHDR", header) + chunk("IDAT", data) + chunk("IEND", {});
+    return test::pngHeader(width, height, QByteArray("\x08\x02\x00\x00\x00", 5))
+        + test::pngChunk("IDAT", test::pngData(QByteArray(4, '\0'))) + test::pngChunk("IEND", {});
 }
 
 /// A PNG file with a chunk put in before its pixels.
@@ -61,12 +46,12 @@ QByteArray pngWith(const QByteArray &type, const QByteArray &content)
     const qsizetype old = file.indexOf("pHYs") - 4;
     if (old > 0)
         file.remove(old, 21);
-    return file.insert(file.indexOf("IDAT") - 4, chunk(type, content));
+    return file.insert(file.indexOf("IDAT") - 4, test::pngChunk(type, content));
 }
 
 QByteArray pngOfDensity(quint32 perMetre, char unit = 1)
 {
-    return pngWith("pHYs", bigEndian(perMetre) + bigEndian(perMetre) + QByteArray(1, unit));
+    return pngWith("pHYs", test::bigEndian(perMetre) + test::bigEndian(perMetre) + QByteArray(1, unit));
 }
 
 QByteArray withBytes(QByteArray file, qsizetype at, const QByteArray &bytes)
@@ -203,8 +188,9 @@ private Q_SLOTS:
         QTest::newRow("JPEG, a ratio only") << jpegOfDensity(0, 144) << 1.0;
         const QByteArray entries = QByteArray::fromHex("011a00050000000100000026"
                                                        "012800030000000100020000");
-        QTest::newRow("JPEG, EXIF") << jpegWithExif(entries, 2, bigEndian(21600) + bigEndian(100)) << 3.0;
-        QTest::newRow("JPEG, EXIF divided by zero") << jpegWithExif(entries, 2, bigEndian(216) + bigEndian(0)) << 1.0;
+        QTest::newRow("JPEG, EXIF") << jpegWithExif(entries, 2, test::bigEndian(21600) + test::bigEndian(100)) << 3.0;
+        QTest::newRow("JPEG, EXIF divided by zero")
+            << jpegWithExif(entries, 2, test::bigEndian(216) + test::bigEndian(0)) << 1.0;
         QTest::newRow("JPEG, EXIF pointing outside") << jpegWithExif(entries, 2) << 1.0;
         QImage image = gradient();
         image.setDotsPerMeterX(7087);

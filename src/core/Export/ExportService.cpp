@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Export/ExportService.h"
+
+#include "core/Base/SafeFile.h"
+#include "core/Desktop/Alerts.h"
+#include "core/Desktop/Sharing.h"
+#include "core/Export/DragFile.h"
+#include "core/Export/ImageEncoder.h"
+#include "core/Export/PictureOffer.h"
+#include "core/Preferences/Settings.h"
+
+#include <QCoreApplication>
+
+namespace tessaly {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("ExportService", text); }
+
+} // namespace
+
+SavePanels::~SavePanels() = default;
+
+ExportService::ExportService(const Surroundings &surroundings) : m_surroundings(surroundings) { }
+
+std::optional<QByteArray> ExportService::data(
+    const RasterImage &image, ExportFormat format, std::optional<double> quality)
+{
+    const EncodeOptions options { .quality = quality.value_or(storedQuality(format, m_surroundings.settings)) };
+    const auto bytes = std::make_shared<std::optional<QByteArray>>();
+    const auto encode = [image, format, options, bytes](const Cancellation &) {
+        if (auto encoded = encodeImage(image, format, options))
+            *bytes = std::move(*encoded);
+    };
+    if (!m_surroundings.work.run(tr("Encoding the image…"), encode))
+        return std::nullopt;
+    return std::move(*bytes);
+}
+
+void ExportService::copy(const RasterImage &image, bool countsAsExport)
+{
+    if (countsAsExport)
+        exported();
+    m_surroundings.clipboard.offer(
+        std::make_unique<PictureOffer>(image, m_surroundings.settings.value(SettingKeys::copyAtFullSize)));
+}
+
+bool ExportService::save(
+    const RasterImage &image, ExportFormat format, const std::function<void(const QString &)> &writeDocument)
+{
+    const auto choice = m_surroundings.panels.chooseImage({ .format = format,
+        .baseName = tr("Screenshot"),
+        .folder = m_surroundings.settings.value(SettingKeys::defaultSaveFolder),
+        .offersDocument = static_cast<bool>(writeDocument) });
+    if (!choice)
+        return false;
+    rememberChoices(*choice);
+    const auto bytes = data(image, choice->format, choice->quality);
+    if (!bytes)
+        return false;
+    Outcome written = Failure { tr("There is not enough memory for it.") };
+    m_surroundings.work.complete(tr("Saving the image…"),
+        [&written, &choice, &bytes](const Cancellation &) { written = SafeFile::write(choice->path, *bytes); });
+    if (!written) {
+        m_surroundings.alerts.warn(tr("Couldn't save the image"), written.failure().message);
+        return false;
+    }
+    if (writeDocument && choice->alsoDocument)
+        writeDocument(choice->path);
+    if (m_surroundings.settings.value(SettingKeys::autoCopyAfterSave))
+        copy(image, false);
+    exported();
+    return true;
+}
+
+void ExportService::rememberChoices(const SavePanels::ImageChoice &choice)
+{
+    // Settings that cannot be written hold for this run all the same; the picture matters more.
+    Settings &settings = m_surroundings.settings;
+    static_cast<void>(settings.set(SettingKeys::exportFormat, rawValue(choice.format)));
+    static_cast<void>(storeQuality(choice.format, choice.quality, settings));
+}
+
+bool ExportService::canShare() const { return m_surroundings.sharing.isAvailable(); }
+
+void ExportService::share(const RasterImage &image)
+{
+    const auto png = data(image, ExportFormat::Png);
+    if (!png)
+        return;
+    const QString name = dragFileName(m_surroundings.clock) + QStringLiteral(".png");
+    const auto path = writeShareFile(*png, name, privateTemporaryFolder());
+    const Outcome shared = path ? m_surroundings.sharing.share(*path) : Outcome(path.failure());
+    if (!shared)
+        m_surroundings.alerts.warn(tr("Couldn't share the image"), shared.failure().message);
+}
+
+} // namespace tessaly
