@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Menu/MenuBar.h"
+
+#include "ui/Menu/CommandActions.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace tessaly {
+
+namespace {
+
+struct MenuTitle {
+    CommandMenu menu;
+    const char *title;
+};
+
+constexpr MenuTitle titles[] = {
+    { CommandMenu::File, QT_TRANSLATE_NOOP("Menus", "&File") },
+    { CommandMenu::Edit, QT_TRANSLATE_NOOP("Menus", "&Edit") },
+    { CommandMenu::View, QT_TRANSLATE_NOOP("Menus", "&View") },
+    { CommandMenu::Tools, QT_TRANSLATE_NOOP("Menus", "&Tools") },
+    { CommandMenu::Image, QT_TRANSLATE_NOOP("Menus", "&Image") },
+    { CommandMenu::Help, QT_TRANSLATE_NOOP("Menus", "&Help") },
+};
+
+/// The commands whose rows are found out when their menu opens.
+const ChoiceMenu *choiceMenuOf(CommandId command, const CommandHooks &hooks)
+{
+    switch (command) {
+    case CommandId::OpenRecent:
+        return &hooks.openRecent;
+    case CommandId::ExportAs:
+        return &hooks.exportAs;
+    default:
+        return nullptr;
+    }
+}
+
+void fillChoices(QMenu &menu, const ChoiceMenu &source)
+{
+    menu.clear();
+    const QList<MenuChoice> choices = source.choices();
+    for (const MenuChoice &choice : choices) {
+        // A file's own "&" is no mnemonic.
+        QAction *action = menu.addAction(QString(choice.title).replace(u'&', QStringLiteral("&&")));
+        action->setToolTip(choice.value);
+        QObject::connect(action, &QAction::triggered, &menu, [&source, value = choice.value] { source.choose(value); });
+    }
+    if (!source.clear)
+        return;
+    menu.addSeparator();
+    QAction *clear = menu.addAction(QCoreApplication::translate("Commands", "Clear Menu"), source.clear);
+    clear->setEnabled(!choices.isEmpty());
+}
+
+void addChoices(QMenu &menu, CommandActions &actions, const CommandRow &row, const ChoiceMenu &source)
+{
+    auto *choices = new QMenu(commandTitle(row), &menu);
+    choices->setObjectName(QLatin1StringView(row.title));
+    choices->setToolTipsVisible(row.id == CommandId::OpenRecent);
+    QObject::connect(choices, &QMenu::aboutToShow, choices, [choices, &source] { fillChoices(*choices, source); });
+    // The action of the command says when its choices may be made.
+    QAction *command = actions.action(row.id);
+    const auto follow = [choices, command] {
+        choices->menuAction()->setEnabled(command->isEnabled());
+        choices->menuAction()->setVisible(command->isVisible());
+    };
+    QObject::connect(command, &QAction::changed, choices, follow);
+    follow();
+    menu.addMenu(choices);
+}
+
+QMenu &submenu(QMenu &menu, const char *title)
+{
+    const QLatin1StringView name(title);
+    if (auto *existing = menu.findChild<QMenu *>(name, Qt::FindDirectChildrenOnly))
+        return *existing;
+    QMenu *created = menu.addMenu(QCoreApplication::translate("Commands", title));
+    created->setObjectName(name);
+    return *created;
+}
+
+void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
+{
+    int group = menu.isEmpty() ? 0 : -1;
+    for (const CommandRow &row : commandTable()) {
+        if (row.menu != which)
+            continue;
+        if (row.group != group)
+            menu.addSeparator();
+        group = row.group;
+        const ChoiceMenu *choices = choiceMenuOf(row.id, actions.hooks());
+        if (choices && choices->choices)
+            addChoices(menu, actions, row, *choices);
+        else
+            (*row.submenu ? submenu(menu, row.submenu) : menu).addAction(actions.action(row.id));
+    }
+}
+
+} // namespace
+
+void fillMenuBar(QMenuBar &bar, CommandActions &actions)
+{
+    for (const auto &[which, title] : titles) {
+        QMenu *menu = bar.addMenu(QCoreApplication::translate("Menus", title));
+        QObject::connect(menu, &QMenu::aboutToShow, &actions, &CommandActions::refresh);
+        addCommands(*menu, actions, which);
+        if (which == CommandMenu::File)
+            addCommands(*menu, actions, CommandMenu::Application);
+        if (which != CommandMenu::Tools)
+            continue;
+        for (const ToolRow &row : toolTable())
+            menu->addAction(actions.toolAction(row.tool));
+    }
+}
+
+} // namespace tessaly

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/Menu/Commands.h"
+
+class QMenuBar;
+
+namespace tessaly {
+
+class CommandActions;
+
+/// Fills the menu bar of a window: File, Edit, View, Tools, Image, Help. The state of the actions is asked again
+/// whenever a menu opens. The actions must live as long as the bar.
+void fillMenuBar(QMenuBar &bar, CommandActions &actions);
+
+} // namespace tessaly

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Style/PlatformTexts.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace tessaly {
+
+namespace {
+
+constexpr PlatformTexts::Row table[] = {
+    { "Document size in real pixels and its resolution. Retina captures are 2× (144 dpi) and some apps paste them at "
+      "half size — turn on “Copy to clipboard at full size” in Settings ▸ Capture to always paste at 1×.",
+        "Document size in real pixels and its resolution. High-density captures are 2× (144 dpi) and some apps paste "
+        "them at half size — with “Copy to clipboard at full size” they are always pasted at 1×." },
+    { "Press a letter on the canvas to switch tools. The ⌥⌘ shortcuts in the Tools menu still work.",
+        "Press a letter on the canvas to switch tools. The Ctrl+Alt shortcuts in the Tools menu still work." },
+    { "Show in Finder", "Show in File Manager" },
+};
+
+} // namespace
+
+std::span<const PlatformTexts::Row> PlatformTexts::rows() { return table; }
+
+QString PlatformTexts::translate(const char *, const char *source, const char *, int) const
+{
+    const auto row
+        = std::ranges::find_if(table, [source](const Row &each) { return std::strcmp(each.source, source) == 0; });
+    return row == std::end(table) ? QString() : QString::fromUtf8(row->shown);
+}
+
+} // namespace tessaly

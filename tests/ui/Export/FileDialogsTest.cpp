@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Preferences/Settings.h"
+#include "ui/Export/DocumentFileDialog.h"
+#include "ui/Export/FileDialogParts.h"
+#include "ui/Export/SaveImageDialog.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using namespace tessaly;
+
+/// The file dialogs with what Tessaly puts into them.
+class FileDialogsTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    Settings m_settings { {} };
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    /// Answers the next question with a button, as soon as it is there; counts the questions.
+    void answerNext(QMessageBox::StandardButton answer, int &count)
+    {
+        auto *timer = new QTimer(this);
+        connect(timer, &QTimer::timeout, this, [timer, answer, &count] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                ++count;
+                delete timer;
+                box->button(answer)->click();
+            }
+        });
+        timer->start(0);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_folder.isValid());
+        QDir(m_folder.path()).mkpath("doc.tessaly/QuickLook");
+        QDir(m_folder.path()).mkpath("sub");
+        for (const char *name : { "doc.tessaly/document.json", "doc.tessaly/image.png", "there.png" }) {
+            QFile file(path(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+    }
+
+    void theNameFollowsTheFormat_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("renamed");
+        QTest::newRow("proposed") << "Screenshot.png"
+                                  << "Screenshot.jpg";
+        QTest::newRow("dots") << "at 12.30.05.png"
+                              << "at 12.30.05.jpg";
+        QTest::newRow("no extension") << "mine"
+                                      << "mine.jpg";
+        QTest::newRow("empty") << ""
+                               << "Screenshot.jpg";
+        QTest::newRow("extension alone") << ".png"
+                                         << "Screenshot.jpg";
+        QTest::newRow("another spelling") << "a.jpeg"
+                                          << "a.jpeg";
+    }
+
+    void theNameFollowsTheFormat()
+    {
+        QFETCH(QString, name);
+        SaveImageDialog dialog({ .baseName = "Screenshot", .folder = m_folder.path() }, m_settings, nullptr);
+        QLineEdit *field = FileDialogParts::nameField(dialog);
+        QCOMPARE(field->text(), "Screenshot.png");
+        field->setText(name);
+        auto *formats = dialog.findChild<QComboBox *>("format");
+        formats->setCurrentIndex(formats->findText("JPEG"));
+        QTEST(field->text(), "renamed");
+        QCOMPARE(dialog.choice().format, ExportFormat::Jpeg);
+    }
+
+    void whatIsTypedIsWhatIsSaved_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<ExportFormat>("format");
+        QTest::newRow("no extension") << "a"
+                                      << "a.png" << ExportFormat::Png;
+        QTest::newRow("a date") << "12.30.05"
+                                << "12.30.05.png" << ExportFormat::Png;
+        QTest::newRow("another format") << "a.webp"
+                                        << "a.webp" << ExportFormat::Webp;
+    }
+
+    void whatIsTypedIsWhatIsSaved()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, name);
+        SaveImageDialog dialog({ .baseName = "Screenshot", .folder = m_folder.path() }, m_settings, nullptr);
+        dialog.show();
+        QLineEdit *field = FileDialogParts::nameField(dialog);
+        field->selectAll();
+        QTest::keyClicks(field, typed);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.choice().path, path(name));
+        QTEST(dialog.choice().format, "format");
+    }
+
+    /// The question is about the file that would be written, with its extension.
+    void replacingIsAskedFor_data()
+    {
+        QTest::addColumn<bool>("document");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("replaces");
+        QTest::newRow("an image, no") << false << "there" << false;
+        QTest::newRow("an image, yes") << false << "there.png" << true;
+        QTest::newRow("a document, no") << true << "doc" << false;
+        QTest::newRow("a document, yes") << true << "doc.tessaly" << true;
+    }
+
+    void replacingIsAskedFor()
+    {
+        QFETCH(bool, document);
+        QFETCH(QString, typed);
+        QFETCH(bool, replaces);
+        SaveImageDialog image({ .baseName = "Screenshot", .folder = m_folder.path() }, m_settings, nullptr);
+        DocumentFileDialog package(DocumentFileDialog::Purpose::Save, nullptr);
+        package.setDirectory(m_folder.path());
+        QFileDialog &dialog = document ? static_cast<QFileDialog &>(package) : image;
+        dialog.show();
+        FileDialogParts::nameField(dialog)->setText(typed);
+        int questions = 0;
+        answerNext(replaces ? QMessageBox::Yes : QMessageBox::No, questions);
+        static_cast<QDialog &>(dialog).accept();
+        QCOMPARE(questions, 1);
+        QCOMPARE(dialog.result() == QDialog::Accepted, replaces);
+        if (document && replaces)
+            QCOMPARE(package.chosenPaths(), QStringList(path("doc.tessaly")));
+    }
+
+    void aDocumentOpensLikeAFile_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("chosen");
+        for (const char *way : { "double click", "Return", "button" }) {
+            QTest::addRow("document by %s", way) << "doc.tessaly" << way << true;
+            QTest::addRow("picture by %s", way) << "there.png" << way << true;
+        }
+        QTest::newRow("folder by Return") << "sub"
+                                          << "Return" << false;
+        QTest::newRow("folder by double click") << "sub"
+                                                << "double click" << false;
+    }
+
+    void aDocumentOpensLikeAFile()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, way);
+        QFETCH(bool, chosen);
+        DocumentFileDialog dialog(DocumentFileDialog::Purpose::Open, nullptr);
+        dialog.setViewMode(QFileDialog::List);
+        dialog.setDirectory(m_folder.path());
+        dialog.show();
+        QAbstractItemView *view = FileDialogParts::listView(dialog);
+        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 3);
+        const QModelIndexList found
+            = view->model()->match(view->model()->index(0, 0, view->rootIndex()), Qt::DisplayRole, entry);
+        QCOMPARE(found.size(), 1);
+        view->setCurrentIndex(found.first());
+        const QPoint at = view->visualRect(found.first()).center();
+        if (way == "double click") {
+            QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+            QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+        } else if (way == "Return")
+            QTest::keyClick(view, Qt::Key_Return);
+        else
+            static_cast<QDialog &>(dialog).accept();
+        QCOMPARE(dialog.chosenPaths(), chosen ? QStringList(path(entry)) : QStringList());
+        QCOMPARE(dialog.result() == QDialog::Accepted, chosen);
+        QCOMPARE(dialog.directory().dirName() == "sub", !chosen);
+    }
+};
+
+QTEST_MAIN(FileDialogsTest)
+#include "FileDialogsTest.moc"
