@@ -3,8 +3,12 @@
 
 #include "app/CommandLine/CommandContext.h"
 #include "app/CommandLine/CommandOptions.h"
+#include "app/CommandLine/DesktopProgram.h"
 #include "app/CommandLine/QuietLibraries.h"
 #include "app/CommandLine/Text.h"
+
+#include <algorithm>
+#include <cstring>
 
 namespace tessaly {
 
@@ -17,13 +21,26 @@ constexpr Command commands[] = {
     { "capture", "Take a picture of the screen", setUpCapture },
 };
 
-ExitStatus run(int argc, char **argv, CommandContext &context)
+bool isCommand(int argc, char **argv)
 {
-    if (argc < 2) {
-        context.console().message(
-            Text::tr("The desktop application is not part of this build yet; tessaly --help lists the commands."));
+    return argc > 1
+        && std::ranges::any_of(commands, [&](const Command &row) { return std::strcmp(row.name, argv[1]) == 0; });
+}
+
+ExitStatus openWindows(char **argv, Console &console)
+{
+    if (!DesktopProgram::hasDisplay()) {
+        console.message(Text::tr("There is no display to open a window on; tessaly --help lists what works without."));
         return ExitStatus::WrongUsage;
     }
+    console.message(DesktopProgram::become(argv).message);
+    return ExitStatus::Failed;
+}
+
+ExitStatus run(int argc, char **argv, CommandContext &context)
+{
+    if (!isCommand(argc, argv) && DesktopProgram::isMeant(argc, argv))
+        return openWindows(argv, context.console());
     const ParsedArguments parsed = parseArguments(argc, argv, commands);
     if (const auto *help = std::get_if<HelpText>(&parsed))
         return context.print(help->text);

@@ -71,6 +71,8 @@ public:
             if (option->get_required() && !option->get_positional())
                 usage += " -" + option->get_snames().front() + ' ' + option->get_option_text();
         }
+        if (!app->get_parent())
+            usage += "\n       " + app->get_display_name() + " [FILE...]    opens pictures and documents in the editor";
         return usage + '\n';
     }
 };

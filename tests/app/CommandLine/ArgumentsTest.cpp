@@ -15,7 +15,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("fragment");
-        QTest::newRow("nothing") << QStringList() << "desktop application";
+        QTest::newRow("nothing") << QStringList() << "no display";
+        QTest::newRow("a file to open") << QStringList { "file" } << "no display";
         QTest::newRow("unknown command") << QStringList { "exprot" } << "\"exprot\"";
         QTest::newRow("unknown option") << QStringList { "export", "--loud" } << "\"--loud\"";
         QTest::newRow("no command of capture") << QStringList { "capture" } << "command";

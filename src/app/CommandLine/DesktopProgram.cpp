@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine/DesktopProgram.h"
+
+#include "app/CommandLine/ByteStream.h"
+#include "app/CommandLine/Text.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace tessaly::DesktopProgram {
+
+bool isMeant(int argc, char **argv)
+{
+    if (argc < 2 || std::strcmp(argv[1], "--") == 0)
+        return true;
+    return argv[1][0] != '-' && ::access(argv[1], F_OK) == 0;
+}
+
+bool hasDisplay() { return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"); }
+
+Failure become(char **argv)
+{
+    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
+    for (const char *place : { "/tessaly-desktop", "/../libexec/tessaly/tessaly-desktop" }) {
+        const QByteArray program = QFile::encodeName(folder) + place;
+        if (::access(program.constData(), X_OK) != 0)
+            continue;
+        ::execv(program.constData(), argv);
+        return { Text::tr("%1 could not be started: %2.").arg(QFile::decodeName(program), ByteStream::reason(errno)) };
+    }
+    return { Text::tr("The program with the windows, tessaly-desktop, is not installed beside this one.") };
+}
+
+} // namespace tessaly::DesktopProgram

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Editor/DragOut.h"
+
+#include "core/Export/DragFile.h"
+#include "core/Export/ImageEncoder.h"
+#include "ui/Style/Icons.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDrag>
+#include <QMouseEvent>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace tessaly {
+
+namespace {
+constexpr auto pngType = "image/png";
+constexpr auto uriListType = "text/uri-list";
+constexpr QSize thumbnailSize { 160, 120 }; // points
+} // namespace
+
+QString dragFolder()
+{
+    const QString folder
+        = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/tessaly");
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return folder;
+}
+
+DragOutData::DragOutData(RasterImage picture, QString fileName, QString temporaryFolder) :
+    m_picture(std::move(picture)),
+    m_fileName(std::move(fileName)),
+    m_temporaryFolder(std::move(temporaryFolder))
+{
+}
+
+QStringList DragOutData::formats() const { return { QLatin1StringView(uriListType), QLatin1StringView(pngType) }; }
+bool DragOutData::hasFormat(const QString &type) const { return formats().contains(type); }
+
+QPixmap DragOutData::thumbnail(QSize pixelSize) const
+{
+    const QSize size = m_picture.pixelSize().scaled(pixelSize.boundedTo(m_picture.pixelSize()), Qt::KeepAspectRatio);
+    return QPixmap::fromImage(m_picture.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+const QByteArray &DragOutData::png() const
+{
+    if (!m_png) {
+        const auto bytes = encodeImage(m_picture, ExportFormat::Png, {});
+        m_png = bytes ? *bytes : QByteArray();
+    }
+    return *m_png;
+}
+
+QString DragOutData::file() const
+{
+    if (!m_file) {
+        const auto path = png().isEmpty()
+            ? Result<QString>(Failure {})
+            : writeDragFile(png(), m_fileName + QStringLiteral(".png"), m_temporaryFolder);
+        m_file = path ? *path : QString();
+    }
+    return *m_file;
+}
+
+QVariant DragOutData::retrieveData(const QString &type, QMetaType wanted) const
+{
+    if (type == QLatin1StringView(pngType))
+        return png();
+    if (type != QLatin1StringView(uriListType) || file().isEmpty())
+        return {};
+    const QUrl url = QUrl::fromLocalFile(file());
+    if (wanted.id() == QMetaType::QVariantList)
+        return QVariantList { url };
+    return url.toEncoded() + "\r\n";
+}
+
+DragOutHandle::DragOutHandle(std::function<std::unique_ptr<DragOutData>()> makeData, QWidget *parent) :
+    QToolButton(parent),
+    m_makeData(std::move(makeData))
+{
+    setObjectName(QStringLiteral("dragOut"));
+    setText(tr("Drag"));
+    setIcon(Icons::icon(QLatin1StringView("drag-out")));
+    setAutoRaise(true);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::OpenHandCursor);
+    setToolTip(tr("Drag the finished picture into another program"));
+    setAccessibleName(tr("Drag out"));
+    setAccessibleDescription(toolTip());
+    connect(this, &QToolButton::clicked, this,
+        [this] { Q_EMIT explained(tr("Drag this into another program, or press Ctrl+Shift+C to copy the picture.")); });
+}
+
+void DragOutHandle::mousePressEvent(QMouseEvent *event)
+{
+    m_pressed = event->position().toPoint();
+    QToolButton::mousePressEvent(event);
+}
+
+void DragOutHandle::mouseMoveEvent(QMouseEvent *event)
+{
+    const int distance = (event->position().toPoint() - m_pressed).manhattanLength();
+    if ((event->buttons() & Qt::LeftButton) && distance >= QApplication::startDragDistance()) {
+        setDown(false);
+        drag();
+        return;
+    }
+    QToolButton::mouseMoveEvent(event);
+}
+
+void DragOutHandle::drag()
+{
+    std::unique_ptr<DragOutData> data = m_makeData();
+    if (!data)
+        return;
+    auto *drag = new QDrag(this);
+    QPixmap thumbnail = data->thumbnail(thumbnailSize * devicePixelRatioF());
+    thumbnail.setDevicePixelRatio(devicePixelRatioF());
+    drag->setPixmap(thumbnail);
+    drag->setHotSpot({ -12, -12 });
+    // The drag owns the data, and Qt keeps it beyond exec() for receivers that fetch late.
+    drag->setMimeData(data.release());
+    drag->exec(Qt::CopyAction);
+}
+
+} // namespace tessaly

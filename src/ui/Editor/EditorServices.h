@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace tessaly {
+
+class Alerts;
+class Appearance;
+class Clipboard;
+class Clock;
+class CopiedStyle;
+class DocumentActions;
+class ExportService;
+class FrameSettings;
+class LongWork;
+class RecentDocuments;
+class SavedStyles;
+class Settings;
+
+/// What every editor needs of the program. Each outlives all editors.
+struct EditorServices {
+    Settings &settings;
+    SavedStyles &styles;
+    CopiedStyle &copiedStyle;
+    FrameSettings &frameSettings;
+    Clipboard &clipboard;
+    Alerts &alerts;
+    LongWork &work;
+    ExportService &exports;
+    DocumentActions &documents;
+    RecentDocuments &recentDocuments;
+    Appearance &appearance;
+    const Clock &clock;
+};
+
+} // namespace tessaly

@@ -1,0 +1,323 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Editor/EditorWindowController.h"
+
+#include "core/Base/LongWork.h"
+#include "core/Desktop/Alerts.h"
+#include "core/Desktop/Clipboard.h"
+#include "core/Document/RecentDocuments.h"
+#include "core/Frame/FrameSettings.h"
+#include "core/Imaging/ImageReading.h"
+#include "ui/Editor/Canvas/CanvasView.h"
+#include "ui/Editor/EditorView.h"
+#include "ui/Editor/EditorWindow.h"
+#include "ui/Editor/UnsavedChangesAlert.h"
+#include "ui/Editor/WindowPlacement.h"
+#include "ui/Export/DocumentFileDialog.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QScreen>
+
+namespace tessaly {
+
+namespace {
+
+/// The size of a new canvas in points.
+constexpr QSize blankSize(1280, 800);
+
+QString fileNameOf(const QString &path) { return QFileInfo(QDir::cleanPath(path)).fileName(); }
+
+RasterImage blankImage()
+{
+    const double scale = QGuiApplication::primaryScreen()->devicePixelRatio();
+    QImage pixels(blankSize * scale, QImage::Format_RGB32);
+    pixels.fill(Qt::white);
+    return { std::move(pixels), blankSize };
+}
+
+/// The best picture of the clipboard, in any format that can be read; empty when there is none.
+std::optional<RasterImage> pastedImage(const Clipboard &clipboard)
+{
+    const QStringList offered = clipboard.types();
+    QStringList types { QStringLiteral("image/png"), QStringLiteral("image/tiff"), QStringLiteral("image/bmp") };
+    types += offered.filter(QStringLiteral("image/"));
+    for (const QString &type : std::as_const(types)) {
+        if (!offered.contains(type))
+            continue;
+        if (auto image = readImage(clipboard.data(type), type))
+            return std::move(*image);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+EditorWindowController::EditorWindowController(const EditorServices &services, QObject *parent) :
+    QObject(parent),
+    m_services(services)
+{
+}
+
+EditorWindowController::~EditorWindowController()
+{
+    QList<EditorWindow *> windows;
+    for (const WindowSlot &slot : m_slots) {
+        slot.view->disconnect(this);
+        if (!windows.contains(slot.window))
+            windows += slot.window;
+    }
+    qDeleteAll(windows);
+}
+
+std::unique_ptr<AnnotationStore> EditorWindowController::makeStore(Opening &opening) const
+{
+    if (opening.usesRememberedFrame) {
+        FrameSettings::Presentation remembered = m_services.frameSettings.forNewCapture();
+        opening.frame = std::move(remembered.frame);
+        opening.watermark = std::move(remembered.watermark);
+    }
+    auto store = std::make_unique<AnnotationStore>(opening.image, m_services.settings);
+    store->restore({ .annotations = std::move(opening.annotations),
+        .image = std::move(opening.image),
+        .nextStampNumber = opening.nextStampNumber,
+        .frame = std::move(opening.frame),
+        .watermark = std::move(opening.watermark) });
+    store->setDocumentURL(std::move(opening.documentURL));
+    return store;
+}
+
+EditorView &EditorWindowController::open(Opening opening)
+{
+    auto store = makeStore(opening);
+    AnnotationStore *kept = store.get();
+    auto owned = std::make_unique<EditorView>(std::move(store), m_services);
+    EditorView *view = owned.get();
+    const EditorWindow *previous = activeWindow();
+    EditorWindow &window = opening.tabOf ? *opening.tabOf : makeWindow();
+    connect(view, &QObject::destroyed, this, &EditorWindowController::forget);
+    m_slots.push_back({ &window, view, kept, &view->zoom() });
+    window.addEditor(std::move(owned), opening.title);
+    if (!opening.tabOf)
+        place(window, previous);
+    bringToFront(m_slots.back());
+    return *view;
+}
+
+void EditorWindowController::prepareWindow()
+{
+    if (m_prepared)
+        return;
+    m_prepared = std::make_unique<EditorWindow>(m_services, *this);
+    m_prepared->ensurePolished();
+    m_prepared->sizeHint(); // reads the fonts
+}
+
+EditorWindow &EditorWindowController::makeWindow()
+{
+    prepareWindow();
+    EditorWindow *window = m_prepared.release();
+    connect(window, &EditorWindow::closeRequested, this, [this](const QList<EditorView *> &views) {
+        if (mayClose(views))
+            close(views);
+    });
+    connect(window, &EditorWindow::openRequested, this, &EditorWindowController::openFile);
+    return *window;
+}
+
+void EditorWindowController::place(EditorWindow &window, const EditorWindow *previous)
+{
+    const QScreen *screen = previous ? previous->screen() : QGuiApplication::primaryScreen();
+    window.move(WindowPlacement::position(
+        window.size(), screen->availableGeometry(), previous ? std::optional(previous->pos()) : std::nullopt));
+}
+
+bool EditorWindowController::openFile(const QString &path)
+{
+    const auto loaded = std::make_shared<std::optional<LoadedFile>>();
+    const auto load = [path, loaded](const Cancellation &) { *loaded = loadFile(path); };
+    if (!m_services.work.run(tr("Opening %1…").arg(fileNameOf(path)), load))
+        return false;
+    return openLoaded(path, *loaded ? std::move(**loaded) : Failure { tr("There is not enough memory for it.") });
+}
+
+bool EditorWindowController::openLoaded(const QString &path, LoadedFile loaded)
+{
+    if (const auto *failure = std::get_if<Failure>(&loaded)) {
+        m_services.alerts.warn(tr("Couldn't open the document"), failure->message);
+        return false;
+    }
+    if (auto *image = std::get_if<RasterImage>(&loaded))
+        open({ .image = std::move(*image), .title = fileNameOf(path), .usesRememberedFrame = true });
+    else
+        openDocument(path, std::move(std::get<TessalyDocument::Contents>(loaded)));
+    m_services.recentDocuments.add(path);
+    return true;
+}
+
+void EditorWindowController::openDocument(const QString &path, TessalyDocument::Contents contents)
+{
+    AnnotationDocument &document = contents.document;
+    std::optional<QUrl> url = QUrl::fromLocalFile(QFileInfo(QDir::cleanPath(path)).absoluteFilePath());
+    if (document.version > AnnotationDocument::currentVersion || document.skippedAnnotations > 0) {
+        m_services.alerts.inform(tr("This document comes from a newer version of Tessaly"),
+            tr("It has been opened as a copy, so saving won't remove anything this version doesn't understand. To "
+               "keep editing the original, update Tessaly."));
+        url.reset();
+    }
+    open({ .image = std::move(contents.image),
+        .title = fileNameOf(path),
+        .annotations = std::move(document.annotations),
+        .nextStampNumber = document.nextStampNumber,
+        .frame = std::move(document.frame),
+        .watermark = std::move(document.watermark),
+        .documentURL = std::move(url) });
+}
+
+void EditorWindowController::openBlank(EditorWindow *tabOf)
+{
+    open({ .image = blankImage(), .title = tr("Untitled"), .usesRememberedFrame = true, .tabOf = tabOf });
+}
+
+void EditorWindowController::activateOrOpenBlank()
+{
+    if (hasEditors())
+        bringToFront(m_slots.back());
+    else
+        openBlank();
+}
+
+void EditorWindowController::openFromClipboard()
+{
+    auto image = pastedImage(m_services.clipboard);
+    if (!image) {
+        m_services.alerts.inform(tr("There is no image on the clipboard"), tr("Copy an image first, then try again."));
+        return;
+    }
+    open({ .image = std::move(*image), .title = tr("Untitled"), .usesRememberedFrame = true });
+}
+
+void EditorWindowController::chooseFiles()
+{
+    DocumentFileDialog dialog(DocumentFileDialog::Purpose::Open, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    for (const QString &path : dialog.chosenPaths())
+        openFile(path);
+}
+
+EditorWindow *EditorWindowController::activeWindow() const
+{
+    if (auto *window = qobject_cast<EditorWindow *>(QApplication::activeWindow()))
+        return window;
+    return m_slots.empty() ? nullptr : m_slots.back().window;
+}
+
+AnnotationStore *EditorWindowController::storeOf(const EditorWindow &window) const
+{
+    EditorView *view = window.currentEditor();
+    return view ? &view->store() : nullptr;
+}
+
+void EditorWindowController::bringToFront(const AnnotationStore &store)
+{
+    const auto slot = std::ranges::find(m_slots, &store, &WindowSlot::store);
+    if (slot != m_slots.end())
+        bringToFront(*slot);
+}
+
+void EditorWindowController::bringToFront(const WindowSlot &slot) { slot.window->activate(slot.view); }
+
+QList<EditorView *> EditorWindowController::dirtyEditors() const
+{
+    QList<EditorView *> dirty;
+    for (const WindowSlot &slot : m_slots) {
+        if (slot.store->hasUnsavedChanges())
+            dirty += slot.view;
+    }
+    return dirty;
+}
+
+bool EditorWindowController::mayClose(const QList<EditorView *> &views)
+{
+    QList<AnnotationStore *> discarded;
+    for (EditorView *view : views) {
+        view->canvas().finishTextEditing();
+        AnnotationStore &store = view->store();
+        if (store.hasUnsavedChanges())
+            bringToFront(store);
+        const auto answer = UnsavedChangesAlert::run(store, m_services.alerts, m_services.documents);
+        if (answer == UnsavedChangesAlert::Answer::Discard)
+            discarded += &store;
+        if (answer != UnsavedChangesAlert::Answer::Cancel)
+            continue;
+        // What stays open has not been given up after all.
+        for (AnnotationStore *each : std::as_const(discarded))
+            each->setHasUnsavedChanges(true);
+        return false;
+    }
+    return true;
+}
+
+void EditorWindowController::close(const QList<EditorView *> &views)
+{
+    for (EditorView *view : views) {
+        const auto slot = std::ranges::find(m_slots, view, &WindowSlot::view);
+        if (slot != m_slots.end())
+            slot->window->removeEditor(view);
+    }
+}
+
+void EditorWindowController::forget(const QObject *view)
+{
+    std::erase_if(m_slots, [view](const WindowSlot &slot) { return static_cast<QObject *>(slot.view) == view; });
+    if (m_slots.empty())
+        Q_EMIT allClosed();
+}
+
+bool EditorWindowController::closeAll()
+{
+    QList<EditorView *> views;
+    for (const WindowSlot &slot : m_slots)
+        views += slot.view;
+    if (!mayClose(views))
+        return false;
+    close(views);
+    return true;
+}
+
+bool EditorWindowController::knows(CommandId command) const
+{
+    switch (command) {
+    case CommandId::NewBlankCanvas:
+    case CommandId::NewFromClipboard:
+    case CommandId::Open:
+    case CommandId::NewTab:
+    case CommandId::Quit:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool EditorWindowController::canPerform(CommandId command) const { return knows(command); }
+
+void EditorWindowController::perform(CommandId command)
+{
+    switch (command) {
+    case CommandId::NewBlankCanvas:
+        return openBlank();
+    case CommandId::NewFromClipboard:
+        return openFromClipboard();
+    case CommandId::Open:
+        return chooseFiles();
+    case CommandId::NewTab:
+        return openBlank(activeWindow());
+    case CommandId::Quit:
+        Q_EMIT quitRequested();
+        return;
+    default:
+        return;
+    }
+}
+
+} // namespace tessaly

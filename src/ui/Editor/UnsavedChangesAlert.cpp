@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Editor/UnsavedChangesAlert.h"
+
+#include "core/Annotation/AnnotationStore.h"
+#include "core/Desktop/Alerts.h"
+#include "core/Document/DocumentActions.h"
+
+#include <QCoreApplication>
+
+namespace tessaly::UnsavedChangesAlert {
+
+static QString translated(const char *text) { return QCoreApplication::translate("UnsavedChangesAlert", text); }
+
+Answer run(AnnotationStore &store, Alerts &alerts, DocumentActions &documents)
+{
+    if (!store.hasUnsavedChanges())
+        return Answer::Close;
+    enum Button { Save, Cancel, DontSave };
+    const int button = alerts.ask({ .message = translated("Do you want to save your annotations?"),
+        .informativeText = translated("Your changes will be lost if you don't save them."),
+        .answers
+        = { { translated("Save…") }, { translated("Cancel") }, { translated("Don't Save"), QStringLiteral("Ctrl+D") } },
+        .escapeAnswer = Cancel });
+    switch (button) {
+    case Save:
+        return documents.save(store) ? Answer::Close : Answer::Cancel;
+    case DontSave:
+        store.setHasUnsavedChanges(false);
+        return Answer::Discard;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+} // namespace tessaly::UnsavedChangesAlert
