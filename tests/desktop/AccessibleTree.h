@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+struct _AtspiAccessible;
+
+namespace tessaly::test {
+
+/// A control of a running program as assistive technology sees it.
+struct SeenControl {
+    std::shared_ptr<_AtspiAccessible> handle;
+    QString name;
+    QString role; ///< "push button", "check box"
+    QRect rect; ///< pixels of the screen
+    bool showing = false;
+    bool checked = false;
+    bool sensitive = false;
+};
+
+/// The accessible objects of the program called `application` on the session bus of this process.
+class AccessibleTree {
+public:
+    explicit AccessibleTree(QString application);
+
+    /// All controls of all windows, those within others after them.
+    QList<SeenControl> controls() const;
+
+    /// The first control on the screen whose name starts with `name`, of that role where one is given; waits up to 15
+    /// seconds for it to appear. Empty when it does not.
+    std::optional<SeenControl> find(const QString &name, const QString &role = {}) const;
+
+    /// Whether such a control is on the screen now.
+    bool shows(const QString &name) const;
+
+    /// Does what a click on it would.
+    bool activate(const SeenControl &control) const;
+
+private:
+    QString m_application;
+};
+
+} // namespace tessaly::test

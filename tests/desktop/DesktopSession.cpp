@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/desktop/DesktopSession.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QThread>
+
+namespace tessaly::test {
+
+namespace {
+
+void end(QProcess &process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    if (!process.waitForFinished(5'000)) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+/// Until it is true, for at most 15 seconds.
+bool waitFor(const std::function<bool()> &condition)
+{
+    const QDeadlineTimer deadline(15'000);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(50);
+    }
+    return true;
+}
+
+} // namespace
+
+DesktopSession::DesktopSession(const QString &geometry) : m_screen(geometry)
+{
+    QDir(m_home.path()).mkpath(QStringLiteral("runtime"));
+    QFile::setPermissions(path(QStringLiteral("runtime")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    for (QProcess *process : { &m_bus, &m_windowManager, &m_program })
+        endWithThisProcess(*process);
+    const QList<std::pair<const char *, QString>> variables {
+        { "DISPLAY", m_screen.displayName() },
+        { "HOME", m_home.path() },
+        { "XDG_RUNTIME_DIR", path(QStringLiteral("runtime")) },
+        { "XDG_CONFIG_HOME", path(QStringLiteral("config")) },
+        { "XDG_DATA_HOME", path(QStringLiteral("data")) },
+        { "QT_QPA_PLATFORM", QStringLiteral("xcb") },
+        { "QT_LINUX_ACCESSIBILITY_ALWAYS_ON", QStringLiteral("1") },
+        { "LANG", QStringLiteral("C.UTF-8") },
+    };
+    for (const auto &[name, value] : variables)
+        qputenv(name, value.toLocal8Bit());
+    qunsetenv("WAYLAND_DISPLAY");
+    m_ready = !m_screen.displayName().isEmpty() && startBus() && startWindowManager();
+}
+
+DesktopSession::~DesktopSession()
+{
+    end(m_program);
+    end(m_windowManager);
+    end(m_bus);
+}
+
+bool DesktopSession::startBus()
+{
+    m_bus.setStandardErrorFile(QProcess::nullDevice());
+    m_bus.start(QStringLiteral("dbus-daemon"),
+        { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1") });
+    while (!m_bus.canReadLine() && m_bus.waitForReadyRead(20'000)) { }
+    const QByteArray address = m_bus.readLine().trimmed();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    return !address.isEmpty();
+}
+
+bool DesktopSession::startWindowManager()
+{
+    m_windowManager.setStandardErrorFile(QProcess::nullDevice());
+    m_windowManager.start(QStringLiteral("openbox"), {});
+    return waitFor([this] {
+        return output(QStringLiteral("xprop"), { QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK") })
+            .contains("window id");
+    });
+}
+
+void DesktopSession::writeSettings(const QByteArray &json) const
+{
+    QDir(m_home.path()).mkpath(QStringLiteral("config/tessaly"));
+    QFile file(path(QStringLiteral("config/tessaly/settings.json")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size())
+        qFatal("no settings could be written");
+}
+
+bool DesktopSession::start(const QStringList &arguments)
+{
+    m_program.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
+    m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
+    return m_program.waitForStarted();
+}
+
+int DesktopSession::waitForEnd()
+{
+    return m_program.waitForFinished(20'000) && m_program.exitStatus() == QProcess::NormalExit ? m_program.exitCode()
+                                                                                               : -1;
+}
+
+void DesktopSession::limitFiles(qint64 bytes) const
+{
+    const QString limit = bytes < 0 ? QStringLiteral("unlimited") : QString::number(bytes);
+    // The soft limit only: the hard one could not be raised again.
+    output(QStringLiteral("prlimit"),
+        { QStringLiteral("--fsize=%1:").arg(limit), QStringLiteral("--pid"), QString::number(m_program.processId()) });
+}
+
+QByteArray DesktopSession::output(const QString &program, const QStringList &arguments) const
+{
+    QProcess process;
+    process.start(program, arguments);
+    const bool done = process.waitForFinished(60'000) && process.exitCode() == 0;
+    return done ? process.readAllStandardOutput() : QByteArray();
+}
+
+void DesktopSession::xdotool(const QStringList &arguments) const { output(QStringLiteral("xdotool"), arguments); }
+
+void DesktopSession::key(const QString &keys) const
+{
+    xdotool({ QStringLiteral("key"), QStringLiteral("--clearmodifiers"), keys });
+}
+
+void DesktopSession::type(const QString &text) const
+{
+    xdotool({ QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"), text });
+}
+
+void DesktopSession::click(QPoint at, int button) const
+{
+    xdotool({ QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()), QStringLiteral("click"),
+        QString::number(button) });
+}
+
+void DesktopSession::doubleClick(QPoint at) const
+{
+    xdotool({ QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()), QStringLiteral("click"),
+        QStringLiteral("--repeat"), QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("60"),
+        QStringLiteral("1") });
+}
+
+void DesktopSession::drag(const QList<QPoint> &way, const QString &modifier) const
+{
+    QStringList steps;
+    const auto moveTo = [&steps](QPointF point) {
+        steps << QStringLiteral("mousemove") << QString::number(qRound(point.x())) << QString::number(qRound(point.y()))
+              << QStringLiteral("sleep") << QStringLiteral("0.01");
+    };
+    if (!modifier.isEmpty())
+        steps << QStringLiteral("keydown") << modifier;
+    moveTo(way.first());
+    steps << QStringLiteral("mousedown") << QStringLiteral("1");
+    for (qsizetype leg = 1; leg < way.size(); ++leg) {
+        constexpr int stepsOfLeg = 8;
+        for (int step = 1; step <= stepsOfLeg; ++step)
+            moveTo(way[leg - 1] + QPointF(way[leg] - way[leg - 1]) * step / stepsOfLeg);
+    }
+    steps << QStringLiteral("mouseup") << QStringLiteral("1");
+    if (!modifier.isEmpty())
+        steps << QStringLiteral("keyup") << modifier;
+    xdotool(steps);
+}
+
+bool DesktopSession::click(const QString &control, const QString &role) const
+{
+    const auto found = m_tree->find(control, role);
+    if (found)
+        click(found->rect.center());
+    return found.has_value();
+}
+
+bool DesktopSession::waitUntilGone(const QString &control) const
+{
+    return waitFor([&] { return !m_tree->shows(control); });
+}
+
+QImage DesktopSession::clipboardPicture() const
+{
+    return QImage::fromData(output(QStringLiteral("xclip"),
+                                { QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-t"),
+                                    QStringLiteral("image/png"), QStringLiteral("-o") }),
+        "PNG");
+}
+
+} // namespace tessaly::test
