@@ -2,6 +2,7 @@
 // Burning marks into a full screen, against copying its pixels once. Nothing is kept between two rounds: each lays out
 // its texts, decodes its pictures and computes its obscured areas again.
 #include "bench/support/Bounds.h"
+#include "bench/support/CopyOnce.h"
 #include "bench/support/MixedMarks.h"
 #include "bench/support/Screens.h"
 #include "core/Base/Parallel.h"
@@ -11,7 +12,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstring>
 
 using namespace tessaly;
 
@@ -39,17 +39,6 @@ void flatten(benchmark::State &state, const QList<Annotation> &marks, int thread
     }
 }
 
-void copyOnce(benchmark::State &state)
-{
-    const QImage from = compositionOf({}).image.pixels;
-    QImage to = from.copy();
-    uchar *bits = to.bits();
-    for ([[maybe_unused]] auto _ : state) {
-        std::memcpy(bits, from.constBits(), size_t(from.sizeInBytes()));
-        benchmark::ClobberMemory();
-    }
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -60,7 +49,7 @@ int main(int argc, char **argv)
     const auto add = [](const char *name, auto function) {
         benchmark::RegisterBenchmark(name, function)->UseRealTime()->Unit(benchmark::kMillisecond);
     };
-    add("CopyOnce", copyOnce);
+    add("CopyOnce", [](benchmark::State &state) { bench::copyOnce(state, compositionOf({}).image.pixels); });
     add("Flatten100/defaultThreads",
         [&](benchmark::State &state) { flatten(state, marks, Parallel::defaultThreadCount()); });
     add("Flatten100/oneThread", [&](benchmark::State &state) { flatten(state, marks, 1); });

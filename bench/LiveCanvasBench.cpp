@@ -2,6 +2,7 @@
 // The picture that an editor shows: a mark that is dragged over a full screen against the first picture of the same
 // marks, few marks against many, and what opening, scrolling and zooming cost against copying the pixels once.
 #include "bench/support/Bounds.h"
+#include "bench/support/CopyOnce.h"
 #include "bench/support/MixedMarks.h"
 #include "bench/support/Screens.h"
 #include "core/Rendering/LiveCanvas.h"
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 using namespace tessaly;
 
@@ -93,17 +93,6 @@ void frames(benchmark::State &state, LiveScene scene, LiveView view, Change chan
     }
 }
 
-void copyOnce(benchmark::State &state)
-{
-    const QImage from = sceneOf(0).image.pixels;
-    QImage to = from.copy();
-    uchar *bits = to.bits();
-    for ([[maybe_unused]] auto _ : state) {
-        std::memcpy(bits, from.constBits(), size_t(from.sizeInBytes()));
-        benchmark::ClobberMemory();
-    }
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -117,7 +106,7 @@ int main(int argc, char **argv)
     const double fit = double(window.width()) / screen.width() * 2;
     LiveScene framed = sceneOf(50);
     framed.frame = FrameStyle();
-    add("CopyOnce", copyOnce);
+    add("CopyOnce", [](benchmark::State &state) { bench::copyOnce(state, sceneOf(0).image.pixels); });
     for (const int marks : { 10, 200, 1000 }) {
         for (const auto &[place, where] : { std::pair("top", 1.0), std::pair("middle", 0.5) }) {
             add(qPrintable(QStringLiteral("Drag/%1/%2").arg(marks).arg(QLatin1StringView(place))),

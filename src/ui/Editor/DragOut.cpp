@@ -6,10 +6,8 @@
 #include "ui/Style/Icons.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QDrag>
 #include <QMouseEvent>
-#include <QStandardPaths>
 #include <QUrl>
 
 namespace tessaly {
@@ -19,15 +17,6 @@ constexpr auto pngType = "image/png";
 constexpr auto uriListType = "text/uri-list";
 constexpr QSize thumbnailSize { 160, 120 }; // points
 } // namespace
-
-QString dragFolder()
-{
-    const QString folder
-        = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/tessaly");
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return folder;
-}
 
 DragOutData::DragOutData(RasterImage picture, QString fileName, QString temporaryFolder) :
     m_picture(std::move(picture)),

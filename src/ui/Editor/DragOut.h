@@ -63,7 +63,4 @@ private:
     QPoint m_pressed;
 };
 
-/// The folder for files that are dragged out: of the user alone, and emptied by the system now and then.
-QString dragFolder();
-
 } // namespace tessaly

@@ -152,7 +152,7 @@ std::unique_ptr<DragOutData> EditorWindow::Implementation::dragOutData()
     auto picture = services.documents.flattened(editor->store());
     if (!picture)
         return nullptr;
-    return std::make_unique<DragOutData>(std::move(*picture), dragFileName(services.clock), dragFolder());
+    return std::make_unique<DragOutData>(std::move(*picture), dragFileName(services.clock), privateTemporaryFolder());
 }
 
 /// Tells in the status line that a choice holds for this run only.
