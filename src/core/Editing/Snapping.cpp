@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tessaly {
 
@@ -49,14 +50,17 @@ auto SnapTargets::Axis::at(double position, double from, double to) const -> std
 {
     sort();
     auto target = std::ranges::lower_bound(m_targets, position - samePlace, {}, &Target::position);
-    std::optional<Target> joined;
+    std::optional<Target> nearest;
+    double least = std::numeric_limits<double>::infinity();
     for (; target != m_targets.end() && target->position <= position + samePlace; ++target) {
-        if (!joined)
-            joined = Target { target->position, from, to };
-        joined->from = std::min(joined->from, target->from);
-        joined->to = std::max(joined->to, target->to);
+        const double gap = std::max({ 0.0, target->from - to, from - target->to });
+        if (gap < least)
+            nearest = *target;
+        least = std::min(least, gap);
     }
-    return joined;
+    if (!nearest)
+        return std::nullopt;
+    return Target { nearest->position, std::min(from, nearest->from), std::max(to, nearest->to) };
 }
 
 void SnapTargets::add(const QRectF &box)

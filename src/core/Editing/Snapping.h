@@ -35,7 +35,7 @@ private:
     public:
         void add(const Target &target);
         double offset(const QList<double> &positions, double reach) const;
-        /// The target at a position, as long as all that lie there and `extent` together.
+        /// The target at a position that lies nearest to from–to, as long as the two together.
         std::optional<Target> at(double position, double from, double to) const;
 
     private:
