@@ -4,6 +4,7 @@
 #include "core/Base/Clock.h"
 #include "core/Desktop/Alerts.h"
 #include "core/Desktop/Clipboard.h"
+#include "core/Desktop/OpenPanels.h"
 #include "core/Desktop/Sharing.h"
 #include "core/Export/SavePanels.h"
 
@@ -87,6 +88,13 @@ public:
         documentNames += fileName;
         return document;
     }
+};
+
+class FakeOpenPanels final : public OpenPanels {
+public:
+    std::optional<QStringList> images; ///< the next answer
+
+    std::optional<QStringList> chooseImages() override { return images; }
 };
 
 /// A clock that stands until it is moved.

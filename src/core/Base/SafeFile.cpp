@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSet>
 
 #include <cerrno>
 #include <cstdio>
@@ -18,19 +19,12 @@ namespace tessaly::SafeFile {
 
 namespace {
 
-Failure failureAt(const QString &path, int error)
-{
-    return {
-        QCoreApplication::translate("SafeFile", "%1 could not be written: %2.").arg(path, qt_error_string(error))
-    };
-}
-
 /// A name beside `path` that nothing else uses; hidden, so that a file manager does not flash it. It does not grow with
 /// the name of `path`, which may be as long as the file system allows.
 QString temporaryBeside(const QString &path)
 {
     const QString token = QString::number(QRandomGenerator::system()->generate64(), 36);
-    return QFileInfo(path).dir().filePath(QStringLiteral(".tessaly-") + token);
+    return QFileInfo(path).dir().filePath(QLatin1StringView(unfinishedPrefix) + token);
 }
 
 /// Returns 0, or the error number of the step that failed.
@@ -57,10 +51,13 @@ int writeAll(int file, const QByteArray &bytes)
     return 0;
 }
 
-/// A new file has the permissions that the user's mask leaves, or those of the file that it is to replace.
-int writeFlushed(const QString &path, const QByteArray &bytes, std::optional<mode_t> replacedMode)
+mode_t fileMode(Access access) { return access == Access::OwnerOnly ? 0600 : 0666; }
+mode_t folderMode(Access access) { return access == Access::OwnerOnly ? 0700 : 0777; }
+
+/// A new file has the permissions of `access`, or those of the file that it is to replace.
+int writeFlushed(const QString &path, const QByteArray &bytes, std::optional<mode_t> replacedMode, Access access)
 {
-    const mode_t mode = replacedMode.value_or(0666);
+    const mode_t mode = replacedMode.value_or(fileMode(access));
     const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (file < 0)
         return errno;
@@ -98,21 +95,39 @@ int renameOver(const QString &from, const QString &to)
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0 : errno;
 }
 
-int writeEntries(const QString &folder, const QList<Entry> &entries)
+/// Makes the folder of an entry, `parent` in `folder`, if it is not there yet.
+int makeParent(const QString &folder, const QString &parent, Access access)
 {
-    if (::mkdir(QFile::encodeName(folder).constData(), 0777) != 0)
+    QString path = folder;
+    const QStringList names = parent.split(u'/');
+    for (const QString &name : names) {
+        path = QDir(path).filePath(name);
+        if (::mkdir(QFile::encodeName(path).constData(), folderMode(access)) != 0 && errno != EEXIST)
+            return errno;
+    }
+    return 0;
+}
+
+int writeEntries(const QString &folder, const QList<Entry> &entries, Access access)
+{
+    if (::mkdir(QFile::encodeName(folder).constData(), folderMode(access)) != 0)
         return errno;
+    QSet<QString> parents;
     for (const auto &[name, bytes] : entries) {
         const QString path = QDir(folder).filePath(name);
         const QString parent = QFileInfo(path).path();
-        if (!QDir().mkpath(parent))
-            return errno != 0 ? errno : EIO;
-        if (const int error = writeFlushed(path, bytes, std::nullopt))
+        if (const int error = makeParent(folder, QFileInfo(name).path(), access))
             return error;
+        if (const int error = writeFlushed(path, bytes, std::nullopt, access))
+            return error;
+        parents.insert(parent);
+    }
+    parents.insert(folder);
+    for (const QString &parent : std::as_const(parents)) {
         if (const int error = flushFolder(parent))
             return error;
     }
-    return flushFolder(folder);
+    return 0;
 }
 
 /// Swaps two paths in one step, so that no moment is without a folder at either.
@@ -123,7 +138,8 @@ int exchange(const QString &one, const QString &other)
     return ::renameat2(AT_FDCWD, first.constData(), AT_FDCWD, second.constData(), RENAME_EXCHANGE) == 0 ? 0 : errno;
 }
 
-/// For file systems without an exchange: the old folder steps aside, and back if the new one cannot follow.
+/// For file systems without an exchange: the old folder steps aside, and back if the new one cannot follow. The old one
+/// then bears the name that the new one had. A kill between the two renames leaves both whole, and none at `path`.
 int replaceAside(const QString &fresh, const QString &path)
 {
     const QString aside = temporaryBeside(path);
@@ -133,14 +149,13 @@ int replaceAside(const QString &fresh, const QString &path)
         renameOver(aside, path);
         return error;
     }
-    QDir(aside).removeRecursively();
-    return 0;
+    return renameOver(aside, fresh);
 }
 
-int replace(const QString &target, const QByteArray &bytes, std::optional<mode_t> mode)
+int replaceFile(const QString &target, const QByteArray &bytes, std::optional<mode_t> mode, Access access)
 {
     const QString temporary = temporaryBeside(target);
-    int error = writeFlushed(temporary, bytes, mode);
+    int error = writeFlushed(temporary, bytes, mode, access);
     if (error == 0)
         error = renameOver(temporary, target);
     if (error != 0) {
@@ -152,7 +167,7 @@ int replace(const QString &target, const QByteArray &bytes, std::optional<mode_t
 
 } // namespace
 
-Outcome write(const QString &path, const QByteArray &bytes)
+Outcome write(const QString &path, const QByteArray &bytes, Access access)
 {
     const QString target = linkTarget(path);
     struct stat existing = {};
@@ -168,20 +183,46 @@ Outcome write(const QString &path, const QByteArray &bytes)
     else if (exists && !S_ISREG(existing.st_mode))
         error = writeInto(path, bytes);
     else
-        error = replace(target, bytes, exists ? std::optional<mode_t>(existing.st_mode & 0777) : std::nullopt);
+        error = replaceFile(
+            target, bytes, exists ? std::optional<mode_t>(existing.st_mode & 0777) : std::nullopt, access);
     if (error != 0)
-        return failureAt(path, error);
+        return notWritten(path, error);
     return Done {};
 }
 
-Outcome writeFolder(const QString &path, const QList<Entry> &entries)
+Outcome replace(const QString &path, const QByteArray &bytes, Access access)
+{
+    if (const int error = replaceFile(path, bytes, std::nullopt, access))
+        return notWritten(path, error);
+    return Done {};
+}
+
+Outcome makeFolder(const QString &path, Access access)
+{
+    const QString folder = QDir::cleanPath(QDir(path).absolutePath());
+    if (QFileInfo(folder).isDir())
+        return Done {};
+    const QString parent = QFileInfo(folder).path();
+    if (parent != folder) {
+        if (auto made = makeFolder(parent); !made)
+            return made;
+    }
+    if (::mkdir(QFile::encodeName(folder).constData(), folderMode(access)) != 0) {
+        const int error = errno; // another process may have been faster
+        if (!QFileInfo(folder).isDir())
+            return notWritten(path, error == EEXIST ? ENOTDIR : error);
+    }
+    return flush(parent);
+}
+
+Outcome writeFolder(const QString &path, const QList<Entry> &entries, Access access)
 {
     const QString target = QDir::cleanPath(path);
     const QFileInfo existing(target);
     if ((existing.exists() && !existing.isDir()) || existing.isSymLink())
-        return failureAt(path, ENOTDIR);
+        return notWritten(path, ENOTDIR);
     const QString fresh = temporaryBeside(target);
-    int error = writeEntries(fresh, entries);
+    int error = writeEntries(fresh, entries, access);
     if (error == 0 && !existing.exists()) {
         error = renameOver(fresh, target);
     } else if (error == 0) {
@@ -189,13 +230,27 @@ Outcome writeFolder(const QString &path, const QList<Entry> &entries)
         if (error == EINVAL || error == ENOSYS)
             error = replaceAside(fresh, target);
     }
-    // After an exchange this is the old folder, after a failure the unfinished one.
-    QDir(fresh).removeRecursively();
     if (error == 0)
         error = flushFolder(QFileInfo(target).path());
+    // After an exchange this is the old folder, after a failure the unfinished one.
+    QDir(fresh).removeRecursively();
     if (error != 0)
-        return failureAt(path, error);
+        return notWritten(path, error);
     return Done {};
+}
+
+Outcome flush(const QString &folder)
+{
+    if (const int error = flushFolder(folder))
+        return notWritten(folder, error);
+    return Done {};
+}
+
+Failure notWritten(const QString &path, int error)
+{
+    return {
+        QCoreApplication::translate("SafeFile", "%1 could not be written: %2.").arg(path, qt_error_string(error))
+    };
 }
 
 } // namespace tessaly::SafeFile

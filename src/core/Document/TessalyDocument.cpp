@@ -2,10 +2,11 @@
 #include "core/Document/TessalyDocument.h"
 
 #include "core/Annotation/AnnotationStore.h"
-#include "core/Base/SafeFile.h"
+#include "core/Base/Parallel.h"
 #include "core/Document/PackageFolder.h"
 #include "core/Export/FlattenService.h"
 #include "core/Export/ImageEncoder.h"
+#include "core/Rendering/PictureScaling.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -101,19 +102,24 @@ Result<Package> package(const AnnotationDocument &document, QByteArray imagePng,
     return Package { std::move(*json), std::move(imagePng), std::move(thumbnailPng) };
 }
 
+QList<SafeFile::Entry> entries(const Package &package)
+{
+    QList<SafeFile::Entry> files {
+        { QLatin1StringView(PackageFolder::documentName), package.documentJson },
+        { QLatin1StringView(PackageFolder::imageName), package.imagePng },
+    };
+    if (package.thumbnailPng)
+        files.append({ QLatin1StringView(PackageFolder::thumbnailName), *package.thumbnailPng });
+    return files;
+}
+
 Outcome write(const Package &package, const QString &path)
 {
     if (QFileInfo(path).isDir() && !PackageFolder::isReplaceable(path))
         return tessaly::Failure { QCoreApplication::translate(
             "TessalyDocument", "%1 could not be written: a folder stands there that is not a Tessaly document.")
                                       .arg(path) };
-    QList<SafeFile::Entry> entries {
-        { QLatin1StringView(PackageFolder::documentName), package.documentJson },
-        { QLatin1StringView(PackageFolder::imageName), package.imagePng },
-    };
-    if (package.thumbnailPng)
-        entries.append({ QLatin1StringView(PackageFolder::thumbnailName), *package.thumbnailPng });
-    return SafeFile::writeFolder(path, entries);
+    return SafeFile::writeFolder(path, entries(package));
 }
 
 bool isDocument(const QString &path)
@@ -149,7 +155,7 @@ QString generator()
     return QStringLiteral("Tessaly %1 (%2)").arg(orUnknown(TESSALY_VERSION), orUnknown(TESSALY_BUILD_NUMBER));
 }
 
-std::optional<QByteArray> thumbnailPng(const RasterImage &image)
+std::optional<QByteArray> thumbnailPng(const RasterImage &image, int threads)
 {
     constexpr double longestSide = 1024;
     if (image.pixels.isNull())
@@ -157,11 +163,13 @@ std::optional<QByteArray> thumbnailPng(const RasterImage &image)
     const QSize size = image.pixelSize();
     const double scale = std::min(longestSide / std::max(size.width(), size.height()), 1.0);
     const auto scaled = [scale](int length) { return std::max(static_cast<int>(std::lround(length * scale)), 1); };
-    const QImage small = image.pixels.scaled(
-        scaled(size.width()), scaled(size.height()), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage small(scaled(size.width()), scaled(size.height()), image.pixels.format());
     if (small.isNull())
         return std::nullopt;
-    auto png = encodeImage(RasterImage::fromPixels(small), ExportFormat::Png, {});
+    // Not by QImage, which takes threads of its own.
+    PictureScaling(image.pixels, small.size())
+        .paint(small.rect(), small, {}, threads > 0 ? threads : Parallel::defaultThreadCount());
+    auto png = encodeImage(RasterImage::fromPixels(small), ExportFormat::Png, { .threads = threads });
     return png ? std::optional(std::move(*png)) : std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Annotation/AnnotationDocument.h"
+#include "core/Base/SafeFile.h"
 #include "core/Imaging/ImageReading.h"
 #include "core/Rendering/FrameComposition.h"
 
@@ -52,6 +53,9 @@ Result<Package, Failure> package(const AnnotationStore &store);
 Result<Package> package(
     const AnnotationDocument &document, QByteArray imagePng, std::optional<QByteArray> thumbnailPng);
 
+/// The files of a package's folder, by their paths in it.
+QList<SafeFile::Entry> entries(const Package &package);
+
 /// Writes the package whole; one that stands at `path` is replaced only when the new one is complete. A folder that is
 /// no package is never replaced.
 Outcome write(const Package &package, const QString &path);
@@ -67,7 +71,8 @@ Result<Contents, Failure> contents(const QString &path, const ImageReadOptions &
 QString generator();
 
 /// The PNG of the picture scaled so that its longer side is at most 1024 pixels, never enlarged; empty if it fails.
-std::optional<QByteArray> thumbnailPng(const RasterImage &image);
+/// Without a number of threads it takes the processor's.
+std::optional<QByteArray> thumbnailPng(const RasterImage &image, int threads = 0);
 
 } // namespace TessalyDocument
 

@@ -368,6 +368,8 @@ std::optional<QUuid> CanvasController::markAt(QPointF view) const
     return mark ? std::optional(mark->id) : std::nullopt;
 }
 
+bool CanvasController::meansMark(QPointF view) const { return markAt(view) || m_implementation->handleAt(view); }
+
 QRectF CanvasController::visibleBox(const QUuid &mark) const
 {
     auto &mine = *m_implementation;

@@ -64,6 +64,8 @@ public:
 
     /// The top-most mark that a click at a view position means: by its visible part, tolerance included.
     std::optional<QUuid> markAt(QPointF view) const;
+    /// Whether a press at a view position takes hold of a mark or of one of its handles.
+    bool meansMark(QPointF view) const;
     /// What a mark covers, by the measures of the fonts that draw it, in image points.
     QRectF visibleBox(const QUuid &mark) const;
 

@@ -4,10 +4,10 @@
 #include "core/Annotation/AnnotationDocument.h"
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Annotation/MarkLimits.h"
+#include "core/Desktop/TextOffer.h"
 #include "core/Editing/MarkOffer.h"
 #include "core/Editing/MarkReshaping.h"
 #include "core/Editing/NewMarks.h"
-#include "core/Editing/TextOffer.h"
 #include "core/Export/PngEncoder.h"
 #include "core/Imaging/ImageReading.h"
 

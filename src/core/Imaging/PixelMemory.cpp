@@ -3,6 +3,10 @@
 
 #include <sys/mman.h>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace tessaly::PixelMemory {
 
 static constexpr std::size_t hugePageBytes = std::size_t(2) << 20;
@@ -33,6 +37,20 @@ QImage allocate(QSize pixelSize, QImage::Format format)
         return {};
     uchar *memory = bytes.release();
     return QImage(memory, pixelSize.width(), pixelSize.height(), qsizetype(bytesPerLine), format, std::free, memory);
+}
+
+void shareHeap()
+{
+#ifdef __GLIBC__
+    ::mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+void giveBack()
+{
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
 }
 
 } // namespace tessaly::PixelMemory

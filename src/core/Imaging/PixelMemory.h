@@ -20,4 +20,12 @@ Bytes allocateBytes(std::size_t count);
 /// A picture of undefined content in such memory. Null when the size is empty or the memory is refused.
 QImage allocate(QSize pixelSize, QImage::Format format);
 
+/// Has all threads share one heap, from here on: what is free at the end of a thread's own heap would not go back to
+/// the system. For programs whose threads seldom ask for memory.
+void shareHeap();
+
+/// Gives the system what has come and gone on any thread and would stay with the program: for the end of a piece of
+/// work in the background. Takes a millisecond or two.
+void giveBack();
+
 } // namespace tessaly::PixelMemory

@@ -53,6 +53,13 @@ inline constexpr SettingKey<bool> showOptionsBar { "showOptionsBar", true };
 /// The parts of the tool bar that are left out: their names, divided by blanks.
 inline constexpr SettingKey<const char *> toolBarHiddenParts { "toolBarHiddenParts", "" };
 inline constexpr SettingKey<bool> liveTextEnabled { "liveTextEnabled", false };
+
+inline constexpr SettingKey<bool> historyEnabled { "historyEnabled", true };
+/// Whole days; below 1 captures are kept until they are deleted.
+inline constexpr SettingKey<double> historyRetentionDays { "historyRetentionDays", 30.0 };
+
+/// Where the start window was when it was last closed.
+inline constexpr SettingKey<Bytes> startWindowFrame { "TessalyStartWindow", {} };
 inline constexpr SettingKey<const char *> appearance { "appearance", "system" };
 inline constexpr SettingKey<Bytes> savedAnnotationStyles { "savedAnnotationStyles", {} };
 inline constexpr SettingKey<Bytes> recentDocuments { "recentDocuments", {} };

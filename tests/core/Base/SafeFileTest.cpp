@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Base/SafeFile.h"
 
-#include <QDir>
+#include "tests/support/TestFiles.h"
+
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
-#include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace tessaly;
+using test::fileContent;
+using test::inChild;
+using test::namesIn;
 
 /// Writes that succeed, fail half-way, and are killed; what counts is what lies in the folder afterwards.
 class SafeFileTest : public QObject {
@@ -22,27 +23,7 @@ class SafeFileTest : public QObject {
 
     QString at(const QString &name) const { return m_folder->filePath(name); }
 
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QStringList files() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    /// Runs the work in a process of its own, so that it may be limited; its result is the exit status.
-    static int inChild(const std::function<int()> &work)
-    {
-        const pid_t child = ::fork();
-        if (child == 0)
-            ::_exit(work());
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
+    QStringList files() const { return namesIn(m_folder->path()); }
 
 private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
@@ -52,7 +33,7 @@ private Q_SLOTS:
         const QString path = at(QStringLiteral("ä ") + QString(240, u'n'));
         QVERIFY(SafeFile::write(path, QByteArray(100'000, 'a')));
         QVERIFY(SafeFile::write(path, "b"));
-        QCOMPARE(contentOf(path), QByteArray("b"));
+        QCOMPARE(fileContent(path), QByteArray("b"));
         QVERIFY(SafeFile::write(path, {}));
         QCOMPARE(QFileInfo(path).size(), 0);
         QCOMPARE(files().size(), 1);
@@ -82,7 +63,7 @@ private Q_SLOTS:
             QVERIFY(SafeFile::write(at(QStringLiteral("second")), content));
             QVERIFY(QFileInfo(at(QStringLiteral("link"))).isSymLink());
             QVERIFY(QFileInfo(at(QStringLiteral("second"))).isSymLink());
-            QCOMPARE(contentOf(at(QStringLiteral("below/file"))), QByteArray(content));
+            QCOMPARE(fileContent(at(QStringLiteral("below/file"))), QByteArray(content));
         }
         QVERIFY(QFile::link(QStringLiteral("round"), at(QStringLiteral("round"))));
         QVERIFY(!SafeFile::write(at(QStringLiteral("round")), "x"));
@@ -134,8 +115,8 @@ private Q_SLOTS:
             return (file ? 1 : 0) + (package ? 2 : 0);
         });
         QCOMPARE(failed, 0);
-        QCOMPARE(contentOf(path), QByteArray("old"));
-        QCOMPARE(contentOf(folder + QStringLiteral("/a")), QByteArray("old"));
+        QCOMPARE(fileContent(path), QByteArray("old"));
+        QCOMPARE(fileContent(folder + QStringLiteral("/a")), QByteArray("old"));
         QCOMPARE(files(), QStringList({ "file", "folder" }));
     }
 
@@ -158,14 +139,14 @@ private Q_SLOTS:
         QCOMPARE(inChild(attempts), 0);
         ::chmod(QFile::encodeName(m_folder->path()), 0755);
         QCOMPARE(files(), QStringList { "file" });
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(fileContent(path), QByteArray("old"));
     }
 
     void exchangesFoldersWhole()
     {
         const QString path = at(QStringLiteral("package"));
         QVERIFY(SafeFile::writeFolder(path, { { QStringLiteral("a"), "1" }, { QStringLiteral("sub/b"), "2" } }));
-        QCOMPARE(contentOf(path + QStringLiteral("/sub/b")), QByteArray("2"));
+        QCOMPARE(fileContent(path + QStringLiteral("/sub/b")), QByteArray("2"));
         QVERIFY(SafeFile::writeFolder(path + u'/', { { QStringLiteral("c"), "3" } }));
         QCOMPARE(QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList { "c" });
         QCOMPARE(files(), QStringList { "package" });
@@ -178,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(QStringLiteral("."), at(QStringLiteral("link"))));
         for (const QString &name : { path, at(QStringLiteral("link")) })
             QVERIFY(!SafeFile::writeFolder(name, { { QStringLiteral("a"), "1" } }));
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(fileContent(path), QByteArray("old"));
         QCOMPARE(files(), QStringList({ "file", "link" }));
     }
 
@@ -199,9 +180,9 @@ private Q_SLOTS:
             ::usleep(static_cast<useconds_t>(500 + round * 700));
             ::kill(child, SIGKILL);
             ::waitpid(child, nullptr, 0);
-            const QByteArray letter = contentOf(path + QStringLiteral("/b"));
+            const QByteArray letter = fileContent(path + QStringLiteral("/b"));
             QCOMPARE(letter.size(), 1);
-            QCOMPARE(contentOf(path + QStringLiteral("/a")), QByteArray(300'000, letter.front()));
+            QCOMPARE(fileContent(path + QStringLiteral("/a")), QByteArray(300'000, letter.front()));
         }
     }
 };

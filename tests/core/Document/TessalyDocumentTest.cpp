@@ -2,6 +2,7 @@
 #include "core/Document/TessalyDocument.h"
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Preferences/Settings.h"
+#include "tests/support/TestFiles.h"
 
 #include <QColorSpace>
 #include <QRandomGenerator>
@@ -13,6 +14,9 @@
 #include <sys/stat.h>
 
 using namespace tessaly;
+using test::fileContent;
+using test::namesIn;
+using test::writeFile;
 
 Q_DECLARE_METATYPE(TessalyDocument::Failure)
 
@@ -26,23 +30,6 @@ RasterImage picture(QSize pixels, double scale = 1)
             image.setPixel(x, y, qRgb(x * 7 % 256, y * 11 % 256, (x + y) % 256));
     }
     return RasterImage::fromPixels(image, scale);
-}
-
-void put(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList entries(const QString &path)
-{
-    return QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
 } // namespace
@@ -103,7 +90,7 @@ private Q_SLOTS:
         const auto package = TessalyDocument::package(store);
         QVERIFY(package);
         QVERIFY(TessalyDocument::write(*package, path("whole.tessaly")));
-        QCOMPARE(entries(path("whole.tessaly")), QStringList({ "QuickLook", "document.json", "image.png" }));
+        QCOMPARE(namesIn(path("whole.tessaly")), QStringList({ "QuickLook", "document.json", "image.png" }));
         QCOMPARE(QImage(path("whole.tessaly/QuickLook/Thumbnail.png")).width(), 1024);
 
         const auto contents = TessalyDocument::contents(path("whole.tessaly"));
@@ -150,14 +137,14 @@ private Q_SLOTS:
             ::mkfifo(QFile::encodeName(p + "/image.png"), 0600);
         });
         row("cut image", "image.png", [](const QString &p) {
-            const QByteArray png = content(p + "/image.png");
-            put(p + "/image.png", png.left(png.size() / 2));
+            const QByteArray png = fileContent(p + "/image.png");
+            QVERIFY(writeFile(p + "/image.png", png.left(png.size() / 2)));
         });
         row("endless document", "document.json is too large",
             [](const QString &p) { QFile::resize(p + "/document.json", AnnotationDocument::maxJsonBytes + 1); });
         row("no folder", "not a folder", [](const QString &p) {
             QDir(p).removeRecursively();
-            put(p, "text");
+            QVERIFY(writeFile(p, "text"));
         });
         row("nothing", "not a folder", [](const QString &p) { QDir(p).removeRecursively(); });
     }
@@ -236,7 +223,7 @@ private Q_SLOTS:
     void aFailedWriteLeavesTheOldPackage()
     {
         const QString package = packageAt("kept.tessaly");
-        const QByteArray before = content(package + "/document.json");
+        const QByteArray before = fileContent(package + "/document.json");
         QImage noise(900, 900, QImage::Format_RGB32);
         for (int y = 0; y < noise.height(); ++y)
             QRandomGenerator(y).fillRange(reinterpret_cast<quint32 *>(noise.scanLine(y)), noise.width());
@@ -256,22 +243,22 @@ private Q_SLOTS:
 
         QVERIFY(!written);
         QVERIFY2(written.failure().message.contains("kept.tessaly"), qPrintable(written.failure().message));
-        QCOMPARE(content(package + "/document.json"), before);
-        QVERIFY(entries(m_folder.path()).filter("kept").size() == 1);
+        QCOMPARE(fileContent(package + "/document.json"), before);
+        QVERIFY(namesIn(m_folder.path()).filter("kept").size() == 1);
 
-        put(package + "/note.txt", "of another program");
+        QVERIFY(writeFile(package + "/note.txt", "of another program"));
         QVERIFY(TessalyDocument::write(*larger, package));
-        QCOMPARE(entries(package), QStringList({ "QuickLook", "document.json", "image.png" }));
+        QCOMPARE(namesIn(package), QStringList({ "QuickLook", "document.json", "image.png" }));
         QCOMPARE(TessalyDocument::contents(package)->image.pixelSize(), QSize(900, 900));
     }
 
     void aFolderThatIsNoDocumentIsNotReplaced()
     {
         QDir(m_folder.path()).mkpath("photos.tessaly");
-        put(path("photos.tessaly/holiday.jpg"), "precious");
+        QVERIFY(writeFile(path("photos.tessaly/holiday.jpg"), "precious"));
         const Outcome written = TessalyDocument::write({ "{}", "png", {} }, path("photos.tessaly"));
         QVERIFY(!written);
-        QCOMPARE(content(path("photos.tessaly/holiday.jpg")), "precious");
+        QCOMPARE(fileContent(path("photos.tessaly/holiday.jpg")), "precious");
     }
 
     void documentsAreKnownByNameOrContent()

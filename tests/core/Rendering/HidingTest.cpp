@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/FrameComposition.h"
+#include "core/Rendering/HiddenParts.h"
 #include "tests/support/DrawnMarks.h"
 #include "tests/support/SampleMarks.h"
 
@@ -115,6 +116,39 @@ private Q_SLOTS:
         };
         QVERIFY(picture({}, ObscureStyle::Solid) != picture(hidden.adjusted(0, 0, 1, 0), ObscureStyle::Solid));
         QVERIFY(picture({}, ObscureStyle::Blur) != picture(hidden, ObscureStyle::Blur));
+    }
+
+    void whatReadsTheCaptureSeesTheCovers_data()
+    {
+        QTest::addColumn<Annotation>("mark");
+        QTest::addColumn<bool>("covers");
+        const QRectF box(40, 30, 30, 20);
+        const auto filled = [&](AnnotationKind kind) {
+            Annotation mark = boxed(kind, box);
+            mark.filled = true;
+            return mark;
+        };
+        for (const auto &row : enumNames<ObscureStyle>)
+            QTest::addRow("%s", row.raw.data()) << obscured(row.value, box) << true;
+        QTest::newRow("filled rectangle") << filled(AnnotationKind::Rectangle) << true;
+        QTest::newRow("filled ellipse") << filled(AnnotationKind::Ellipse) << true;
+        QTest::newRow("outlined") << boxed(AnnotationKind::Rectangle, box) << false;
+        QTest::newRow("highlighted") << boxed(AnnotationKind::Highlight, box) << false;
+        QTest::newRow("an arrow") << boxed(AnnotationKind::Arrow, box) << false;
+    }
+
+    void whatReadsTheCaptureSeesTheCovers()
+    {
+        QFETCH(Annotation, mark);
+        QFETCH(bool, covers);
+        Annotation other = boxed(AnnotationKind::Line, { 0, 0, 120, 80 });
+        const RasterImage capture = test::noisyCapture(canvasPoints * 2, 2);
+        const auto seen = HiddenParts::painted(capture, { other, mark });
+        QVERIFY(seen);
+        QCOMPARE(seen->pointSize, capture.pointSize);
+        QCOMPARE(seen->pixels.pixel(110, 80) != capture.pixels.pixel(110, 80), covers);
+        QCOMPARE(seen->pixels.copy(0, 0, 78, 160), capture.pixels.copy(0, 0, 78, 160));
+        QCOMPARE(HiddenParts::areas({ other, mark }), covers ? QList { mark.rect() } : QList<QRectF>());
     }
 
     void coversWholePixels()
