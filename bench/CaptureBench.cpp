@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A cold full-screen capture of 3840×2160 to a PNG file, whole process, beside a packaged program of the same job.
+// A cold full-screen capture of 3840×2160 to a PNG file and into the history, whole process, beside a packaged program
+// of the same job.
 #include "bench/support/Bounds.h"
+#include "bench/support/GeneratedHistory.h"
 #include "bench/support/Libpng.h"
 #include "bench/support/Screens.h"
 #include "platform/x11/X11Connection.h"
@@ -14,6 +16,7 @@
 #include <cstdio>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tessaly;
 
@@ -82,6 +85,14 @@ int main(int argc, char **argv)
     qputenv("DISPLAY", screen.displayName().toLatin1());
     qunsetenv("WAYLAND_DISPLAY");
     const QTemporaryDir folder;
+    // Every capture is recorded, beside a thousand others.
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+    if (!bench::GeneratedHistory::write({ HistoryStore::defaultDirectory() }, bench::GeneratedHistory::entries(1000))) {
+        std::fprintf(stderr, "no history could be written\n");
+        return 1;
+    }
+    ::sync(); // or the captures wait for it
     const QString ours = folder.filePath(QStringLiteral("ours.png"));
     const QString others = folder.filePath(QStringLiteral("others.png"));
     measure("Capture/tessaly", { TESSALY_PROGRAM, "capture", "full-screen", "-o", ours.toStdString() }, ours);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QUuid>
 
 #include <memory>
 
@@ -17,8 +18,8 @@ public:
     ~TessalyApp();
 
     /// Opens what the arguments name, the first of them as `first` has read it, and runs until the last window is
-    /// closed. Without arguments it opens an empty canvas. The process's exit status: 1 when nothing could be opened.
-    int run(const QStringList &paths, EarlyReading &first);
+    /// closed. Without arguments it shows the start window. The process's exit status: 1 when none could be opened.
+    int run(const QStringList &paths, const QList<QUuid> &historyEntries, EarlyReading &first);
 
 private:
     class Services;

@@ -40,10 +40,12 @@ class ArchitectureTest : public QObject {
     /// Every source below src/ with its includes: path relative to src/ → included texts.
     static QMap<QString, QStringList> includes()
     {
-        static const QRegularExpression pattern(QStringLiteral("^#include [<\"]([^>\"]+)[>\"]"), QRegularExpression::MultilineOption);
+        static const QRegularExpression pattern(
+            QStringLiteral("^#include [<\"]([^>\"]+)[>\"]"), QRegularExpression::MultilineOption);
         QMap<QString, QStringList> found;
         const QDir root(QStringLiteral(TESSALY_SOURCE "/src"));
-        QDirIterator files(root.path(), { QStringLiteral("*.h"), QStringLiteral("*.cpp") }, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(
+            root.path(), { QStringLiteral("*.h"), QStringLiteral("*.cpp") }, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString path = files.next();
             QStringList &list = found[root.relativeFilePath(path)];

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine/CaptureRecording.h"
 #include "app/CommandLine/Command.h"
 #include "app/CommandLine/CommandContext.h"
 #include "app/CommandLine/CommandOptions.h"
 #include "app/CommandLine/OutputTargets.h"
 #include "app/CommandLine/PictureEncoding.h"
 #include "app/CommandLine/Text.h"
+#include "core/History/HistoryPruning.h"
 
 #include <QFileInfo>
 
@@ -29,25 +31,42 @@ Result<RasterImage> captureDisplay(ScreenSource &source, qint64 number)
     return source.capture(display.pixelRect, display.scale);
 }
 
+/// Keeps the capture in the history. The user has what was asked for whatever comes of it.
+void record(CaptureRecording &recording, CommandContext &context)
+{
+    const int retentionDays = HistoryPruning::retentionDays(context.settings());
+    if (const Outcome recorded = recording.finish(retentionDays); !recorded)
+        context.console().message(recorded.failure().message);
+}
+
+Outcome writeCapture(const RasterImage &picture, const QString &path, OutputTargets &targets, CommandContext &context)
+{
+    const auto format = formatOfExtension(QFileInfo(path).suffix()).value_or(ExportFormat::Png);
+    const auto bytes = encodePicture(picture, format, std::nullopt, context);
+    if (!bytes)
+        return bytes.failure();
+    std::optional<CaptureRecording> recording;
+    if (context.settings().value(SettingKeys::historyEnabled))
+        recording.emplace(picture, format == ExportFormat::Png ? std::optional(*bytes) : std::nullopt);
+    const Outcome written = targets.write(path, *bytes);
+    if (written && recording)
+        record(*recording, context);
+    return written;
+}
+
 Outcome captureFullScreen(const CaptureOptions &options, CommandContext &context)
 {
     auto targets = OutputTargets::create(options.output, {});
     if (!targets)
         return targets.failure();
-    if (targets->isFolder())
-        return Failure { Text::tr("%1 is a folder; name the file in it.").arg(options.output) };
-    const auto path = targets->pathFor({}, {});
+    const auto path = targets->singlePath();
     if (!path)
         return path.failure();
     const auto source = context.environment().screenSource();
     if (!source)
         return source.failure();
     const auto picture = captureDisplay(**source, options.display.value_or(1));
-    if (!picture)
-        return picture.failure();
-    const auto format = formatOfExtension(QFileInfo(*path).suffix()).value_or(ExportFormat::Png);
-    const auto bytes = encodePicture(*picture, format, std::nullopt, context);
-    return bytes ? targets->write(*path, *bytes) : Outcome(bytes.failure());
+    return picture ? writeCapture(*picture, *path, *targets, context) : Outcome(picture.failure());
 }
 
 ExitStatus runFullScreen(const CaptureOptions &options, CommandContext &context)
@@ -56,11 +75,7 @@ ExitStatus runFullScreen(const CaptureOptions &options, CommandContext &context)
         context.console().message(Text::tr("Standard output is a terminal, which cannot show a picture."));
         return ExitStatus::WrongUsage;
     }
-    const Outcome captured = captureFullScreen(options, context);
-    if (captured)
-        return ExitStatus::Done;
-    context.console().message(captured.failure().message);
-    return ExitStatus::Failed;
+    return context.report(captureFullScreen(options, context));
 }
 
 CommandBody setUpFullScreen(CommandOptions &options)
@@ -70,6 +85,8 @@ CommandBody setUpFullScreen(CommandOptions &options)
         "Picture to write; its extension says the format, and without one it is PNG; - is PNG on standard output");
     options.wholeNumber(chosen->display, "--display", { 1, 1000 },
         "Which display to take, counted from 1, the primary one; by default 1");
+    options.closing("The capture is also kept in the history (tessaly history --help), unless that is\n"
+                    "switched off.");
     return [chosen](CommandContext &context) { return runFullScreen(*chosen, context); };
 }
 

@@ -28,5 +28,8 @@ CommandBody setUpExport(CommandOptions &options);
 CommandBody setUpDocument(CommandOptions &options);
 CommandBody setUpInfo(CommandOptions &options);
 CommandBody setUpCapture(CommandOptions &options);
+CommandBody setUpCollage(CommandOptions &options);
+CommandBody setUpText(CommandOptions &options);
+CommandBody setUpHistory(CommandOptions &options);
 
 } // namespace tessaly

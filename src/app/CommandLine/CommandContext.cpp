@@ -19,16 +19,17 @@ const Settings &CommandContext::settings()
     return *m_settings;
 }
 
-ExitStatus CommandContext::print(const QByteArray &result)
+ExitStatus CommandContext::print(const QByteArray &result) { return report(m_console.print(result)); }
+
+ExitStatus CommandContext::report(const Outcome &outcome)
 {
-    const Outcome printed = m_console.print(result);
-    if (printed)
+    if (outcome)
         return ExitStatus::Done;
-    m_console.message(printed.failure().message);
+    m_console.message(outcome.failure().message);
     return ExitStatus::Failed;
 }
 
-void CommandContext::requireFonts()
+void CommandContext::requireApplication()
 {
     if (QCoreApplication::instance())
         return;

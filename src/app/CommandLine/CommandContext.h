@@ -25,8 +25,11 @@ public:
     /// Writes a command's result to standard output; the status says whether it went.
     ExitStatus print(const QByteArray &result);
 
-    /// Makes the application object that fonts need, without a display.
-    void requireFonts();
+    /// Says why it failed, if it did.
+    ExitStatus report(const Outcome &outcome);
+
+    /// Makes the application object that fonts and waiting for answers need, without a display.
+    void requireApplication();
 
 private:
     const CommandEnvironment &m_environment;

@@ -5,7 +5,6 @@
 #include "app/CommandLine/CommandOptions.h"
 #include "app/CommandLine/DesktopProgram.h"
 #include "app/CommandLine/QuietLibraries.h"
-#include "app/CommandLine/Text.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,6 +18,9 @@ constexpr Command commands[] = {
     { "document", "Make an editable document of a picture", setUpDocument },
     { "info", "Say what is in a picture or document", setUpInfo },
     { "capture", "Take a picture of the screen", setUpCapture },
+    { "text", "Read the text and the codes in pictures", setUpText },
+    { "history", "Find, open and remove the captures that were kept", setUpHistory },
+    { "collage", "Join pictures side by side or stacked", setUpCollage },
 };
 
 bool isCommand(int argc, char **argv)
@@ -27,20 +29,10 @@ bool isCommand(int argc, char **argv)
         && std::ranges::any_of(commands, [&](const Command &row) { return std::strcmp(row.name, argv[1]) == 0; });
 }
 
-ExitStatus openWindows(char **argv, Console &console)
-{
-    if (!DesktopProgram::hasDisplay()) {
-        console.message(Text::tr("There is no display to open a window on; tessaly --help lists what works without."));
-        return ExitStatus::WrongUsage;
-    }
-    console.message(DesktopProgram::become(argv).message);
-    return ExitStatus::Failed;
-}
-
 ExitStatus run(int argc, char **argv, CommandContext &context)
 {
     if (!isCommand(argc, argv) && DesktopProgram::isMeant(argc, argv))
-        return openWindows(argv, context.console());
+        return DesktopProgram::become(argv, context.console());
     const ParsedArguments parsed = parseArguments(argc, argv, commands);
     if (const auto *help = std::get_if<HelpText>(&parsed))
         return context.print(help->text);

@@ -51,6 +51,18 @@ std::optional<qint64> wholeNumber(const QString &text)
     return ok ? std::optional(value) : std::nullopt;
 }
 
+/// The shortest way to write an option.
+std::string flagOf(const CLI::Option &option)
+{
+    return option.get_snames().empty() ? "--" + option.get_lnames().front() : '-' + option.get_snames().front();
+}
+
+/// "tessaly history" for the group of that name.
+std::string fullName(const CLI::App &app)
+{
+    return app.get_parent() ? fullName(*app.get_parent()) + ' ' + app.get_name() : app.get_display_name();
+}
+
 /// The parser's pages, with air after the summary and the options that must be given in the usage line.
 class HelpPages final : public CLI::Formatter {
 public:
@@ -69,10 +81,12 @@ public:
         usage.pop_back(); // its line break
         for (const CLI::Option *option : app->get_options()) {
             if (option->get_required() && !option->get_positional())
-                usage += " -" + option->get_snames().front() + ' ' + option->get_option_text();
+                usage += ' ' + flagOf(*option) + ' ' + option->get_option_text();
         }
         if (!app->get_parent())
-            usage += "\n       " + app->get_display_name() + " [FILE...]    opens pictures and documents in the editor";
+            usage += "\n       " + app->get_display_name()
+                + " [FILE...]    opens pictures and documents in the editor,\n"
+                  "                            or without any shows the captures that were kept";
         return usage + '\n';
     }
 };
@@ -186,7 +200,7 @@ void CommandOptions::flag(bool &target, const char *flags, const char *help)
 void CommandOptions::commands(std::span<const Command> rows)
 {
     m_app.require_subcommand(1);
-    m_app.footer("Each command has its own help: " + m_app.get_display_name()
+    m_app.footer("Each command has its own help: " + fullName(m_app)
         + " COMMAND --help\n"
           "Exit status: 0 done, 1 the work failed, 2 wrong usage.");
     for (const Command &row : rows) {

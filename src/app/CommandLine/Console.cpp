@@ -11,17 +11,6 @@ namespace tessaly {
 
 namespace {
 
-/// File names may hold line breaks and terminal commands; a message stays one line of plain text.
-QString printable(QString text)
-{
-    for (QChar &character : text) {
-        if (character.category() == QChar::Other_Control || character == QChar::ParagraphSeparator
-            || character == QChar::LineSeparator)
-            character = u'?';
-    }
-    return text;
-}
-
 /// Whether the sentence names the subject as a word of its own.
 bool names(const QString &sentence, const QString &subject)
 {
@@ -88,6 +77,29 @@ Outcome Console::print(const QByteArray &bytes)
         return Failure { Text::tr("Standard output could not be written: %1.").arg(ByteStream::reason(error)) };
     }
     return Done {};
+}
+
+bool Console::confirms(const QString &question)
+{
+    endProgress();
+    writeToError(question.toLocal8Bit() + ' ' + Text::tr("[y/N]").toLocal8Bit() + ' ');
+    QByteArray answer;
+    for (char letter = 0; ::read(STDIN_FILENO, &letter, 1) == 1 && letter != '\n';)
+        answer += letter;
+    const QByteArray word = answer.trimmed().toLower();
+    return word == "y" || word == "yes";
+}
+
+bool Console::canAsk() { return ::isatty(STDIN_FILENO) && ::isatty(STDERR_FILENO); }
+
+QString Console::printable(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::ParagraphSeparator
+            || character == QChar::LineSeparator)
+            character = u'?';
+    }
+    return text;
 }
 
 bool Console::printsToTerminal() { return ::isatty(STDOUT_FILENO); }

@@ -26,6 +26,15 @@ public:
     /// Writes bytes to standard output, whole or with a failure.
     Outcome print(const QByteArray &bytes);
 
+    /// Asks on standard error for "y" or "yes"; anything else is no.
+    bool confirms(const QString &question);
+
+    /// Whether there is someone at a terminal to ask.
+    static bool canAsk();
+
+    /// The text without line breaks and terminal commands, as file names and titles may hold them.
+    static QString printable(QString text);
+
     /// Whether standard output is a terminal, where no picture belongs.
     static bool printsToTerminal();
 

@@ -2,6 +2,7 @@
 #include "app/CommandLine/DesktopProgram.h"
 
 #include "app/CommandLine/ByteStream.h"
+#include "app/CommandLine/Console.h"
 #include "app/CommandLine/Text.h"
 
 #include <QFile>
@@ -20,9 +21,13 @@ bool isMeant(int argc, char **argv)
     return argv[1][0] != '-' && ::access(argv[1], F_OK) == 0;
 }
 
-bool hasDisplay() { return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"); }
+static bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
 
-Failure become(char **argv)
+/// Only comes back with a failure.
+static Failure replaceProcess(char **argv)
 {
     const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
     for (const char *place : { "/tessaly-desktop", "/../libexec/tessaly/tessaly-desktop" }) {
@@ -33,6 +38,16 @@ Failure become(char **argv)
         return { Text::tr("%1 could not be started: %2.").arg(QFile::decodeName(program), ByteStream::reason(errno)) };
     }
     return { Text::tr("The program with the windows, tessaly-desktop, is not installed beside this one.") };
+}
+
+ExitStatus become(char **argv, Console &console)
+{
+    if (!hasDisplay()) {
+        console.message(Text::tr("There is no display to open a window on; tessaly --help lists what works without."));
+        return ExitStatus::WrongUsage;
+    }
+    console.message(replaceProcess(argv).message);
+    return ExitStatus::Failed;
 }
 
 } // namespace tessaly::DesktopProgram

@@ -32,7 +32,7 @@ Outcome writeDocument(
     if (const Outcome size = loaded->checkFinishedSize(options.input.reading().maxPixels); !size)
         return size;
     if (needsFonts(loaded->store->annotations(), loaded->store->watermark()))
-        context.requireFonts(); // for the thumbnail
+        context.requireApplication(); // for the thumbnail
     const auto package = TessalyDocument::package(*loaded->store);
     if (!package)
         return Failure { package.failure().description() };

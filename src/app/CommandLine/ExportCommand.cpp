@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine/ExportCommand.h"
+
 #include "app/CommandLine/ByteStream.h"
-#include "app/CommandLine/Command.h"
 #include "app/CommandLine/CommandContext.h"
 #include "app/CommandLine/CommandOptions.h"
 #include "app/CommandLine/LoadedInput.h"
@@ -13,14 +14,6 @@
 namespace tessaly {
 
 namespace {
-
-struct ExportOptions {
-    QStringList inputs;
-    QString output;
-    std::optional<QString> format;
-    std::optional<double> quality;
-    InputOptions input;
-};
 
 /// One run of `export` over its inputs.
 class ExportRun {
@@ -128,26 +121,36 @@ void ExportRun::step(const QString &input)
 
 } // namespace
 
+void ExportOptions::declare(CommandOptions &options)
+{
+    options.required(output, "-o,--output", "OUTPUT",
+        "File to write, or a folder for results named like the inputs; - is standard output");
+    options.optional(format, "--format", "FORMAT",
+        "png, jpeg, webp, pdf, tiff, gif or bmp; by default what OUTPUT's extension says, else the format last chosen");
+    options.number(quality, "--quality", { 0, 1 },
+        "Quality of JPEG and WebP, 0 to 1; WebP of 1 loses nothing; by default the quality last chosen, else 0.9");
+    input.declareAnnotations(options);
+    input.declareFrame(options);
+    input.declareWatermark(options);
+}
+
+ExitStatus runExport(const ExportOptions &options, CommandContext &context)
+{
+    return ExportRun(options, context).run();
+}
+
 CommandBody setUpExport(CommandOptions &options)
 {
     auto chosen = std::make_shared<ExportOptions>();
     options.inputs(chosen->inputs, "INPUT", "Images or .tessaly documents; - is an image on standard input");
-    options.required(chosen->output, "-o,--output", "OUTPUT",
-        "File to write, or a folder for results named like the inputs; - is standard output");
-    options.optional(chosen->format, "--format", "FORMAT",
-        "png, jpeg, webp, pdf, tiff, gif or bmp; by default what OUTPUT's extension says, else the format last chosen");
-    options.number(chosen->quality, "--quality", { 0, 1 },
-        "Quality of JPEG and WebP, 0 to 1; WebP of 1 loses nothing; by default the quality last chosen, else 0.9");
-    chosen->input.declareAnnotations(options);
-    chosen->input.declareFrame(options);
-    chosen->input.declareWatermark(options);
+    chosen->declare(options);
     chosen->input.declareScale(options);
     chosen->input.declareMaxPixels(options);
     options.closing("Examples:\n"
                     "  tessaly export shot.png -o shot.webp --annotations marks.json\n"
                     "  tessaly export *.tessaly -o pictures/ --format jpeg --quality 0.8\n"
                     "  tessaly export - -o - --frame default < shot.png > framed.png");
-    return [chosen](CommandContext &context) { return ExportRun(*chosen, context).run(); };
+    return [chosen](CommandContext &context) { return runExport(*chosen, context); };
 }
 
 } // namespace tessaly

@@ -109,7 +109,7 @@ Result<RasterImage> LoadedInput::flattened(CommandContext &context, qint64 maxPi
     if (!size)
         return size.failure();
     if (needsFonts(store->annotations(), store->watermark()))
-        context.requireFonts();
+        context.requireApplication();
     auto finished = FlattenService::flatten(*store);
     if (!finished)
         return Failure { Text::tr("The image couldn't be rendered with its annotations.") };

@@ -86,6 +86,13 @@ Result<QString> OutputTargets::pathFor(const QString &input, QLatin1StringView e
     return path;
 }
 
+Result<QString> OutputTargets::singlePath()
+{
+    if (m_isFolder)
+        return Failure { Text::tr("%1 is a folder; name the file in it.").arg(m_output) };
+    return pathFor({}, {});
+}
+
 Outcome OutputTargets::write(const QString &path, const QByteArray &bytes, const QString &input)
 {
     const InterruptionGuard guard;

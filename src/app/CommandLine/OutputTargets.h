@@ -28,6 +28,9 @@ public:
     /// The path for this input's result with that extension.
     Result<QString> pathFor(const QString &input, QLatin1StringView extension);
 
+    /// The path of a run that has one result. Fails when the output is a folder.
+    Result<QString> singlePath();
+
     /// Writes the bytes of an input's result to the path that pathFor gave for it. A file appears whole or not at all,
     /// even when the run is interrupted; a device or a pipe takes the bytes as they come.
     Outcome write(const QString &path, const QByteArray &bytes, const QString &input = {});

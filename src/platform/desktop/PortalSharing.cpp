@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/PortalSharing.h"
 
+#include "platform/desktop/SessionBus.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
 #include <QFile>
-#include <QFileInfo>
 
 namespace tessaly {
 
@@ -24,20 +25,11 @@ QDBusMessage call(const char *interface, const char *method, const QVariantList 
     return QDBusConnection::sessionBus().call(message, QDBus::Block, timeoutMilliseconds);
 }
 
-/// Without an address Qt would start a bus of its own.
-bool hasSessionBus()
-{
-    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
-        return true;
-    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + QStringLiteral("/bus"));
-}
-
 /// Whether the portal is there with the interface that opens files; empty when it did not say in time.
 std::optional<bool> askPortal()
 {
     constexpr int patienceMilliseconds = 300;
-    if (!hasSessionBus())
+    if (!SessionBus::isThere())
         return false;
     const QDBusMessage reply = call("org.freedesktop.DBus.Properties", "Get",
         { QString::fromLatin1(openInterface), QStringLiteral("version") }, patienceMilliseconds);

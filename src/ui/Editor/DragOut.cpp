@@ -1,69 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/DragOut.h"
 
-#include "core/Export/DragFile.h"
-#include "core/Export/ImageEncoder.h"
 #include "ui/Style/Icons.h"
 
 #include <QApplication>
 #include <QDrag>
 #include <QMouseEvent>
-#include <QUrl>
 
 namespace tessaly {
 
-namespace {
-constexpr auto pngType = "image/png";
-constexpr auto uriListType = "text/uri-list";
-constexpr QSize thumbnailSize { 160, 120 }; // points
-} // namespace
-
 DragOutData::DragOutData(RasterImage picture, QString fileName, QString temporaryFolder) :
-    m_picture(std::move(picture)),
-    m_fileName(std::move(fileName)),
-    m_temporaryFolder(std::move(temporaryFolder))
+    DraggedPicture([picture] { return picture; }, std::move(fileName), std::move(temporaryFolder)),
+    m_picture(std::move(picture))
 {
 }
-
-QStringList DragOutData::formats() const { return { QLatin1StringView(uriListType), QLatin1StringView(pngType) }; }
-bool DragOutData::hasFormat(const QString &type) const { return formats().contains(type); }
 
 QPixmap DragOutData::thumbnail(QSize pixelSize) const
 {
     const QSize size = m_picture.pixelSize().scaled(pixelSize.boundedTo(m_picture.pixelSize()), Qt::KeepAspectRatio);
     return QPixmap::fromImage(m_picture.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-}
-
-const QByteArray &DragOutData::png() const
-{
-    if (!m_png) {
-        const auto bytes = encodeImage(m_picture, ExportFormat::Png, {});
-        m_png = bytes ? *bytes : QByteArray();
-    }
-    return *m_png;
-}
-
-QString DragOutData::file() const
-{
-    if (!m_file) {
-        const auto path = png().isEmpty()
-            ? Result<QString>(Failure {})
-            : writeDragFile(png(), m_fileName + QStringLiteral(".png"), m_temporaryFolder);
-        m_file = path ? *path : QString();
-    }
-    return *m_file;
-}
-
-QVariant DragOutData::retrieveData(const QString &type, QMetaType wanted) const
-{
-    if (type == QLatin1StringView(pngType))
-        return png();
-    if (type != QLatin1StringView(uriListType) || file().isEmpty())
-        return {};
-    const QUrl url = QUrl::fromLocalFile(file());
-    if (wanted.id() == QMetaType::QVariantList)
-        return QVariantList { url };
-    return url.toEncoded() + "\r\n";
 }
 
 DragOutHandle::DragOutHandle(std::function<std::unique_ptr<DragOutData>()> makeData, QWidget *parent) :
@@ -105,6 +60,7 @@ void DragOutHandle::drag()
     std::unique_ptr<DragOutData> data = m_makeData();
     if (!data)
         return;
+    constexpr QSize thumbnailSize { 160, 120 }; // points
     auto *drag = new QDrag(this);
     QPixmap thumbnail = data->thumbnail(thumbnailSize * devicePixelRatioF());
     thumbnail.setDevicePixelRatio(devicePixelRatioF());

@@ -1,43 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Imaging/RasterImage.h"
+#include "core/Export/DraggedPicture.h"
 
-#include <QMimeData>
 #include <QPixmap>
 #include <QToolButton>
 
 #include <functional>
-#include <optional>
 
 namespace tessaly {
 
-/// A picture on its way to another program: PNG data and a PNG file, each made when it is asked for.
-class DragOutData : public QMimeData {
+/// The finished picture of an editor on its way to another program.
+class DragOutData : public DraggedPicture {
     Q_OBJECT
 
 public:
     /// `fileName` has no extension. The file is written below `temporaryFolder`, which belongs to the user alone.
     DragOutData(RasterImage picture, QString fileName, QString temporaryFolder);
 
-    QStringList formats() const override;
-    bool hasFormat(const QString &type) const override;
-
     /// The picture scaled down to at most this size in pixels.
     QPixmap thumbnail(QSize pixelSize) const;
 
-protected:
-    QVariant retrieveData(const QString &type, QMetaType wanted) const override;
-
 private:
-    const QByteArray &png() const;
-    QString file() const;
-
     RasterImage m_picture;
-    QString m_fileName;
-    QString m_temporaryFolder;
-    mutable std::optional<QByteArray> m_png;
-    mutable std::optional<QString> m_file; ///< empty when it could not be written
 };
 
 /// The place of the tool bar from which the finished picture is dragged into another program.

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/EditorActions.h"
 
+#include "core/Base/LongWork.h"
 #include "core/Base/SafeFile.h"
 #include "core/Desktop/Alerts.h"
 #include "core/Document/DocumentActions.h"
 #include "core/Editing/MarkClipboard.h"
+#include "core/Rendering/HiddenParts.h"
+#include "core/Text/TextCopier.h"
 #include "ui/Editor/Canvas/CanvasView.h"
 #include "ui/Editor/Dialogs/ResizeDialog.h"
 #include "ui/Editor/Dialogs/SharpenDialog.h"
@@ -35,6 +38,7 @@ std::span<const EditorActions::Row> EditorActions::rows()
         { Id::ExportAs, &EditorActions::exportImage },
         { Id::CopyImage, &EditorActions::copyImage },
         { Id::Share, &EditorActions::share, &EditorActions::canShare },
+        { Id::CopyTextFromImage, &EditorActions::copyText },
         { Id::Undo, &EditorActions::undo, &EditorActions::canUndo },
         { Id::Redo, &EditorActions::redo, &EditorActions::canRedo },
         { Id::ZoomIn, &EditorActions::zoomIn },
@@ -115,6 +119,25 @@ void EditorActions::share()
 {
     if (const auto picture = m_services.documents.flattened(m_store))
         m_services.exports.share(*picture);
+}
+
+/// Reads the capture without its marks, but nothing that they hide.
+void EditorActions::copyText()
+{
+    if (!m_services.recognizer.isSupported()) {
+        Q_EMIT message(tr("Live Text isn't available on this Mac"));
+        return;
+    }
+    const auto seen = std::make_shared<std::optional<RasterImage>>(); // the worker may outlive this call
+    const bool finished = m_services.work.run(tr("Preparing the image…"),
+        [seen, capture = m_store.image(), marks = m_store.annotations()](
+            const Cancellation &) { *seen = HiddenParts::painted(capture, marks); });
+    if (!finished)
+        return;
+    if (*seen)
+        m_services.textCopier.copyText(**seen);
+    else
+        m_services.alerts.warn(tr("Couldn't read the image"), tr("There isn't enough memory for it."));
 }
 
 void EditorActions::rotateLeft() { ImageWork::run(ImageEdit::rotate(false), m_store, m_services); }

@@ -48,6 +48,7 @@ private:
     void copyImage();
     void share();
     bool canShare() const;
+    void copyText();
     void undo() { m_store.undo(); }
     void redo() { m_store.redo(); }
     bool canUndo() const { return m_store.canUndo(); }

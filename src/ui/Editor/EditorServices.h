@@ -5,6 +5,7 @@ namespace tessaly {
 
 class Alerts;
 class Appearance;
+class CaptureHistory;
 class Clipboard;
 class Clock;
 class CopiedStyle;
@@ -12,9 +13,14 @@ class DocumentActions;
 class ExportService;
 class FrameSettings;
 class LongWork;
+class OpenPanels;
 class RecentDocuments;
 class SavedStyles;
 class Settings;
+class TextCopier;
+class TextRecognizer;
+class Toasts;
+class Links;
 
 /// What every editor needs of the program. Each outlives all editors.
 struct EditorServices {
@@ -30,6 +36,12 @@ struct EditorServices {
     RecentDocuments &recentDocuments;
     Appearance &appearance;
     const Clock &clock;
+    CaptureHistory &history;
+    TextRecognizer &recognizer;
+    TextCopier &textCopier;
+    Toasts &toasts;
+    Links &links;
+    OpenPanels &openPanels;
 };
 
 } // namespace tessaly

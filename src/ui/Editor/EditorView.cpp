@@ -5,6 +5,7 @@
 #include "ui/Editor/Canvas/CanvasView.h"
 #include "ui/Editor/EditorActions.h"
 #include "ui/Editor/EditorStatus.h"
+#include "ui/Editor/LiveText/LiveTextOverlay.h"
 #include "ui/Editor/Options/OptionsBar.h"
 #include "ui/Editor/Options/StyleMenu.h"
 #include "ui/Editor/ToolSidebar.h"
@@ -26,7 +27,9 @@ EditorView::EditorView(std::unique_ptr<AnnotationStore> store, const EditorServi
     m_options(new OptionsBar(
         *m_store, { services.settings, services.styles, services.frameSettings, services.alerts }, this)),
     m_sidebar(new ToolSidebar(*m_store, this)),
-    m_status(new EditorStatus(*m_store, m_zoom, this))
+    m_status(new EditorStatus(*m_store, m_zoom, this)),
+    m_liveText(std::make_unique<LiveTextOverlay>(*m_store, *m_canvas,
+        LiveTextOverlay::Services { services.recognizer, services.textCopier, services.clipboard, services.links }))
 {
     lay();
     connectParts();
@@ -91,6 +94,7 @@ void EditorView::followSettings()
 {
     m_options->setVisible(m_services.settings.value(SettingKeys::showOptionsBar));
     m_options->refresh();
+    m_liveText->setEnabled(m_services.settings.value(SettingKeys::liveTextEnabled));
 }
 
 QSize EditorView::surroundings() const

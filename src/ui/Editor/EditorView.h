@@ -14,6 +14,7 @@ namespace tessaly {
 class CanvasView;
 class EditorActions;
 class EditorStatus;
+class LiveTextOverlay;
 class OptionsBar;
 class ToolSidebar;
 
@@ -39,7 +40,7 @@ public:
     /// Switches the tool as a click in the sidebar does.
     void chooseTool(Tool tool);
     void exportAs(ExportFormat format);
-    /// Shows or hides the options bar as the setting says.
+    /// Shows or hides the options bar and live text as the settings say.
     void followSettings();
     void showMessage(const QString &sentence);
 
@@ -68,6 +69,7 @@ private:
     OptionsBar *m_options;
     ToolSidebar *m_sidebar;
     EditorStatus *m_status;
+    std::unique_ptr<LiveTextOverlay> m_liveText;
     bool m_hasBeenShown = false;
 };
 

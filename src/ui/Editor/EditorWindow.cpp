@@ -33,7 +33,7 @@ public:
     void addOwnCommands();
     void connectParts();
     std::unique_ptr<DragOutData> dragOutData();
-    void toggleOptionsBar();
+    void toggle(const SettingKey<bool> &key);
     void customizeToolBar();
     void followSettings();
     void report(const Outcome &outcome);
@@ -68,6 +68,8 @@ CommandHooks EditorWindow::Implementation::hooks()
     hooks.isOn = [this](CommandId command) {
         if (command == CommandId::ToggleOptionsBar)
             return services.settings.value(SettingKeys::showOptionsBar);
+        if (command == CommandId::ToggleLiveText)
+            return services.settings.value(SettingKeys::liveTextEnabled);
         return command == CommandId::ToggleSnapping && tabs && tabs->current()
             && tabs->current()->canvas().controller().snapping();
     };
@@ -104,7 +106,8 @@ CommandHooks EditorWindow::Implementation::hooks()
 
 void EditorWindow::Implementation::addOwnCommands()
 {
-    commands.add(CommandId::ToggleOptionsBar, [this] { toggleOptionsBar(); });
+    commands.add(CommandId::ToggleOptionsBar, [this] { toggle(SettingKeys::showOptionsBar); });
+    commands.add(CommandId::ToggleLiveText, [this] { toggle(SettingKeys::liveTextEnabled); });
     commands.add(CommandId::KeyboardShortcuts, [this] {
         auto *sheet = new ShortcutsSheet(&window);
         sheet->setAttribute(Qt::WA_DeleteOnClose);
@@ -163,10 +166,9 @@ void EditorWindow::Implementation::report(const Outcome &outcome)
         editor->showMessage(outcome.failure().message);
 }
 
-void EditorWindow::Implementation::toggleOptionsBar()
+void EditorWindow::Implementation::toggle(const SettingKey<bool> &key)
 {
-    const bool on = !services.settings.value(SettingKeys::showOptionsBar);
-    report(services.settings.set(SettingKeys::showOptionsBar, on));
+    report(services.settings.set(key, !services.settings.value(key)));
     followSettings();
     refresh();
 }

@@ -4,10 +4,13 @@
 #include "core/Base/LongWork.h"
 #include "core/Desktop/Alerts.h"
 #include "core/Desktop/Clipboard.h"
+#include "core/Desktop/Toasts.h"
 #include "core/Document/RecentDocuments.h"
 #include "core/Frame/FrameSettings.h"
+#include "core/History/CaptureHistory.h"
 #include "core/Imaging/ImageReading.h"
 #include "ui/Editor/Canvas/CanvasView.h"
+#include "ui/Editor/CollageService.h"
 #include "ui/Editor/EditorView.h"
 #include "ui/Editor/EditorWindow.h"
 #include "ui/Editor/UnsavedChangesAlert.h"
@@ -62,6 +65,7 @@ EditorWindowController::~EditorWindowController()
 {
     QList<EditorWindow *> windows;
     for (const WindowSlot &slot : m_slots) {
+        m_services.history.endTracking(*slot.store);
         slot.view->disconnect(this);
         if (!windows.contains(slot.window))
             windows += slot.window;
@@ -131,13 +135,22 @@ void EditorWindowController::place(EditorWindow &window, const EditorWindow *pre
         window.size(), screen->availableGeometry(), previous ? std::optional(previous->pos()) : std::nullopt));
 }
 
-bool EditorWindowController::openFile(const QString &path)
+/// Reads a file while the windows go on painting; empty when the user cancelled.
+static std::optional<LoadedFile> loadedFile(LongWork &work, const QString &path, const QString &name)
 {
     const auto loaded = std::make_shared<std::optional<LoadedFile>>();
     const auto load = [path, loaded](const Cancellation &) { *loaded = loadFile(path); };
-    if (!m_services.work.run(tr("Opening %1…").arg(fileNameOf(path)), load))
-        return false;
-    return openLoaded(path, *loaded ? std::move(**loaded) : Failure { tr("There is not enough memory for it.") });
+    if (!work.run(EditorWindowController::tr("Opening %1…").arg(name), load))
+        return std::nullopt;
+    if (!*loaded)
+        return Failure { EditorWindowController::tr("There is not enough memory for it.") };
+    return std::move(**loaded);
+}
+
+bool EditorWindowController::openFile(const QString &path)
+{
+    auto loaded = loadedFile(m_services.work, path, fileNameOf(path));
+    return loaded && openLoaded(path, std::move(*loaded));
 }
 
 bool EditorWindowController::openLoaded(const QString &path, LoadedFile loaded)
@@ -147,35 +160,90 @@ bool EditorWindowController::openLoaded(const QString &path, LoadedFile loaded)
         return false;
     }
     if (auto *image = std::get_if<RasterImage>(&loaded))
-        open({ .image = std::move(*image), .title = fileNameOf(path), .usesRememberedFrame = true });
+        openCapture(std::move(*image), fileNameOf(path));
     else
         openDocument(path, std::move(std::get<TessalyDocument::Contents>(loaded)));
     m_services.recentDocuments.add(path);
     return true;
 }
 
-void EditorWindowController::openDocument(const QString &path, TessalyDocument::Contents contents)
+EditorWindowController::Opening EditorWindowController::openingOf(
+    TessalyDocument::Contents contents, const QString &title)
 {
     AnnotationDocument &document = contents.document;
-    std::optional<QUrl> url = QUrl::fromLocalFile(QFileInfo(QDir::cleanPath(path)).absoluteFilePath());
-    if (document.version > AnnotationDocument::currentVersion || document.skippedAnnotations > 0) {
-        m_services.alerts.inform(tr("This document comes from a newer version of Tessaly"),
-            tr("It has been opened as a copy, so saving won't remove anything this version doesn't understand. To "
-               "keep editing the original, update Tessaly."));
-        url.reset();
-    }
-    open({ .image = std::move(contents.image),
-        .title = fileNameOf(path),
+    return { .image = std::move(contents.image),
+        .title = title,
         .annotations = std::move(document.annotations),
         .nextStampNumber = document.nextStampNumber,
         .frame = std::move(document.frame),
-        .watermark = std::move(document.watermark),
-        .documentURL = std::move(url) });
+        .watermark = std::move(document.watermark) };
+}
+
+bool EditorWindowController::mayRewrite(const AnnotationDocument &document)
+{
+    if (document.version <= AnnotationDocument::currentVersion && document.skippedAnnotations == 0)
+        return true;
+    m_services.alerts.inform(tr("This document comes from a newer version of Tessaly"),
+        tr("It has been opened as a copy, so saving won't remove anything this version doesn't understand. To "
+           "keep editing the original, update Tessaly."));
+    return false;
+}
+
+void EditorWindowController::openDocument(const QString &path, TessalyDocument::Contents contents)
+{
+    std::optional<QUrl> url;
+    if (mayRewrite(contents.document))
+        url = QUrl::fromLocalFile(QFileInfo(QDir::cleanPath(path)).absoluteFilePath());
+    Opening opening = openingOf(std::move(contents), fileNameOf(path));
+    opening.documentURL = std::move(url);
+    open(std::move(opening));
+}
+
+EditorView &EditorWindowController::openCapture(RasterImage image, const QString &title)
+{
+    EditorView &view = open({ .image = std::move(image), .title = title, .usesRememberedFrame = true });
+    m_services.history.track(view.store(), title, {}, CaptureHistory::Begin::Now);
+    return view;
+}
+
+bool EditorWindowController::openHistoryEntry(const QUuid &id)
+{
+    CaptureHistory &history = m_services.history;
+    const auto shown
+        = std::ranges::find_if(m_slots, [&](const WindowSlot &slot) { return history.entryOf(*slot.store) == id; });
+    if (shown != m_slots.end()) {
+        bringToFront(*shown);
+        return true;
+    }
+    const auto entry = std::ranges::find(history.entries(), id, &HistoryEntry::id);
+    const QString title = entry == history.entries().end() ? tr("Untitled") : entry->title;
+    history.flush(); // an editor that has just closed may have left something to write
+    auto loaded = loadedFile(m_services.work, history.packagePath(id), title);
+    if (!loaded)
+        return false;
+    if (auto *contents = std::get_if<TessalyDocument::Contents>(&*loaded)) {
+        openEntry(id, title, std::move(*contents));
+        return true;
+    }
+    const auto *failure = std::get_if<Failure>(&*loaded);
+    m_services.alerts.warn(tr("Couldn't open the document"), failure ? failure->message : QString());
+    history.load(); // the entry may have gone
+    return false;
+}
+
+void EditorWindowController::openEntry(const QUuid &id, const QString &title, TessalyDocument::Contents contents)
+{
+    // What this version cannot write back is left alone: the copy becomes a capture of its own.
+    const auto continued = mayRewrite(contents.document) ? std::optional(id) : std::nullopt;
+    EditorView &view = open(openingOf(std::move(contents), title));
+    m_services.history.track(view.store(), title, continued, CaptureHistory::Begin::WithFirstChange);
 }
 
 void EditorWindowController::openBlank(EditorWindow *tabOf)
 {
-    open({ .image = blankImage(), .title = tr("Untitled"), .usesRememberedFrame = true, .tabOf = tabOf });
+    const QString title = tr("Untitled");
+    EditorView &view = open({ .image = blankImage(), .title = title, .usesRememberedFrame = true, .tabOf = tabOf });
+    m_services.history.track(view.store(), title, {}, CaptureHistory::Begin::WithFirstChange);
 }
 
 void EditorWindowController::activateOrOpenBlank()
@@ -183,17 +251,15 @@ void EditorWindowController::activateOrOpenBlank()
     if (hasEditors())
         bringToFront(m_slots.back());
     else
-        openBlank();
+        Q_EMIT startWindowRequested();
 }
 
 void EditorWindowController::openFromClipboard()
 {
-    auto image = pastedImage(m_services.clipboard);
-    if (!image) {
-        m_services.alerts.inform(tr("There is no image on the clipboard"), tr("Copy an image first, then try again."));
-        return;
-    }
-    open({ .image = std::move(*image), .title = tr("Untitled"), .usesRememberedFrame = true });
+    if (auto image = pastedImage(m_services.clipboard))
+        openCapture(std::move(*image), tr("Pasted image"));
+    else
+        m_services.toasts.show(tr("No image on the clipboard"));
 }
 
 void EditorWindowController::chooseFiles()
@@ -245,7 +311,8 @@ bool EditorWindowController::mayClose(const QList<EditorView *> &views)
         AnnotationStore &store = view->store();
         if (store.hasUnsavedChanges())
             bringToFront(store);
-        const auto answer = UnsavedChangesAlert::run(store, m_services.alerts, m_services.documents);
+        const auto answer = UnsavedChangesAlert::run(
+            store, { m_services.alerts, m_services.documents, m_services.history, m_services.work });
         if (answer == UnsavedChangesAlert::Answer::Discard)
             discarded += &store;
         if (answer != UnsavedChangesAlert::Answer::Cancel)
@@ -262,8 +329,10 @@ void EditorWindowController::close(const QList<EditorView *> &views)
 {
     for (EditorView *view : views) {
         const auto slot = std::ranges::find(m_slots, view, &WindowSlot::view);
-        if (slot != m_slots.end())
-            slot->window->removeEditor(view);
+        if (slot == m_slots.end())
+            continue;
+        m_services.history.endTracking(*slot->store);
+        slot->window->removeEditor(view);
     }
 }
 
@@ -292,11 +361,20 @@ bool EditorWindowController::knows(CommandId command) const
     case CommandId::NewFromClipboard:
     case CommandId::Open:
     case CommandId::NewTab:
+    case CommandId::StartWindow:
     case CommandId::Quit:
+    case CommandId::NewCollageSideBySide:
+    case CommandId::NewCollageStacked:
         return true;
     default:
         return false;
     }
+}
+
+void EditorWindowController::createCollage(CollageLayout layout)
+{
+    const auto open = [this](RasterImage image, const QString &title) { openCapture(std::move(image), title); };
+    CollageService({ m_services.openPanels, m_services.work, m_services.alerts, open }).createFromPanel(layout);
 }
 
 bool EditorWindowController::canPerform(CommandId command) const { return knows(command); }
@@ -312,9 +390,16 @@ void EditorWindowController::perform(CommandId command)
         return chooseFiles();
     case CommandId::NewTab:
         return openBlank(activeWindow());
+    case CommandId::StartWindow:
+        Q_EMIT startWindowRequested();
+        return;
     case CommandId::Quit:
         Q_EMIT quitRequested();
         return;
+    case CommandId::NewCollageSideBySide:
+        return createCollage(CollageLayout::SideBySide);
+    case CommandId::NewCollageStacked:
+        return createCollage(CollageLayout::Stacked);
     default:
         return;
     }

@@ -3,6 +3,7 @@
 
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Document/FileLoading.h"
+#include "core/Imaging/Collage.h"
 #include "ui/Editor/EditorServices.h"
 #include "ui/Menu/CommandTarget.h"
 
@@ -49,8 +50,16 @@ public:
     bool openFile(const QString &path);
     /// The same with what was read from the path before.
     bool openLoaded(const QString &path, LoadedFile loaded);
+    /// Opens a new capture with the remembered frame, and has the history follow it.
+    EditorView &openCapture(RasterImage image, const QString &title);
+    /// Opens a capture of the history, or brings the editor that shows it to the front. As openFile on failure.
+    bool openHistoryEntry(const QUuid &id);
     void openBlank(EditorWindow *tabOf = nullptr);
+    /// Brings the editor that was opened last to the front; without one the start window is asked for.
     void activateOrOpenBlank();
+    /// Opens the clipboard's image as a new capture; a notice says when there is none.
+    void openFromClipboard();
+    void chooseFiles();
 
     AnnotationStore *storeOf(const EditorWindow &window) const;
     void bringToFront(const AnnotationStore &store);
@@ -67,6 +76,7 @@ public:
 
 Q_SIGNALS:
     void quitRequested();
+    void startWindowRequested();
     /// The last editor has closed.
     void allClosed();
 
@@ -80,17 +90,20 @@ private:
     };
 
     std::unique_ptr<AnnotationStore> makeStore(Opening &opening) const;
+    static Opening openingOf(TessalyDocument::Contents contents, const QString &title);
     void openDocument(const QString &path, TessalyDocument::Contents contents);
+    /// Whether nothing is lost when this version writes the document; else the user is told that it opens as a copy.
+    bool mayRewrite(const AnnotationDocument &document);
+    void openEntry(const QUuid &id, const QString &title, TessalyDocument::Contents contents);
     EditorWindow &makeWindow();
     static void place(EditorWindow &window, const EditorWindow *previous);
     EditorWindow *activeWindow() const;
     void bringToFront(const WindowSlot &slot);
     void forget(const QObject *view);
+    void createCollage(CollageLayout layout);
     /// False when the user wants to keep one of them open; then all are as they were.
     bool mayClose(const QList<EditorView *> &views);
     void close(const QList<EditorView *> &views);
-    void openFromClipboard();
-    void chooseFiles();
 
     EditorServices m_services;
     std::unique_ptr<EditorWindow> m_prepared;

@@ -4,6 +4,7 @@
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Desktop/Alerts.h"
 #include "core/Document/DocumentActions.h"
+#include "core/History/CaptureHistory.h"
 
 #include <QCoreApplication>
 
@@ -11,19 +12,19 @@ namespace tessaly::UnsavedChangesAlert {
 
 static QString translated(const char *text) { return QCoreApplication::translate("UnsavedChangesAlert", text); }
 
-Answer run(AnnotationStore &store, Alerts &alerts, DocumentActions &documents)
+Answer run(AnnotationStore &store, const Services &services)
 {
-    if (!store.hasUnsavedChanges())
+    if (!store.hasUnsavedChanges() || services.history.keepNow(store, services.work))
         return Answer::Close;
     enum Button { Save, Cancel, DontSave };
-    const int button = alerts.ask({ .message = translated("Do you want to save your annotations?"),
+    const int button = services.alerts.ask({ .message = translated("Do you want to save your annotations?"),
         .informativeText = translated("Your changes will be lost if you don't save them."),
         .answers
         = { { translated("Save…") }, { translated("Cancel") }, { translated("Don't Save"), QStringLiteral("Ctrl+D") } },
         .escapeAnswer = Cancel });
     switch (button) {
     case Save:
-        return documents.save(store) ? Answer::Close : Answer::Cancel;
+        return services.documents.save(store) ? Answer::Close : Answer::Cancel;
     case DontSave:
         store.setHasUnsavedChanges(false);
         return Answer::Discard;

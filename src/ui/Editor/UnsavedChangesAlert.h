@@ -5,7 +5,9 @@ namespace tessaly {
 
 class Alerts;
 class AnnotationStore;
+class CaptureHistory;
 class DocumentActions;
+class LongWork;
 
 /// The question before a capture with unsaved changes closes.
 namespace UnsavedChangesAlert {
@@ -16,8 +18,16 @@ enum class Answer {
     Cancel, ///< also when saving failed
 };
 
-/// Asks when there is something to ask, and saves when that is the answer.
-Answer run(AnnotationStore &store, Alerts &alerts, DocumentActions &documents);
+struct Services {
+    Alerts &alerts;
+    DocumentActions &documents;
+    CaptureHistory &history;
+    LongWork &work;
+};
+
+/// Asks when there is something to ask, and saves when that is the answer. There is nothing to ask when the history
+/// keeps the capture; what it has not written yet is written first.
+Answer run(AnnotationStore &store, const Services &services);
 
 } // namespace UnsavedChangesAlert
 

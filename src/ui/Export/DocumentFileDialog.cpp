@@ -7,7 +7,6 @@
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QFileSystemModel>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -24,9 +23,7 @@ bool isDocumentFolder(const QString &path) { return QFileInfo(path).isDir() && T
 
 QString openFilter()
 {
-    QStringList patterns { QStringLiteral("*.tessaly") };
-    for (const QByteArray &format : QImageReader::supportedImageFormats())
-        patterns += QStringLiteral("*.") + QString::fromLatin1(format);
+    const QStringList patterns = QStringList(QStringLiteral("*.tessaly")) + FileDialogParts::imagePatterns();
     return translated("Images and Tessaly documents") + QStringLiteral(" (%1)").arg(patterns.join(u' '));
 }
 
@@ -36,6 +33,7 @@ DocumentFileDialog::DocumentFileDialog(Purpose purpose, QWidget *parent) : QFile
 {
     const bool opens = purpose == Purpose::Open;
     setOption(DontUseNativeDialog);
+    setOption(HideNameFilterDetails); // which do not fit
     FileDialogParts::readNamesOnly(*this);
     setWindowTitle(opens ? translated("Open") : translated("Save Document"));
     setAcceptMode(opens ? AcceptOpen : AcceptSave);

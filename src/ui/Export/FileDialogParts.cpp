@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -62,6 +63,14 @@ void hideFileTypes(QFileDialog &dialog)
         types->hide();
     if (auto *label = dialog.findChild<QLabel *>(QStringLiteral("fileTypeLabel")))
         label->hide();
+}
+
+QStringList imagePatterns()
+{
+    QStringList patterns;
+    for (const QByteArray &format : QImageReader::supportedImageFormats())
+        patterns += QStringLiteral("*.") + QString::fromLatin1(format);
+    return patterns;
 }
 
 } // namespace tessaly::FileDialogParts

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStringList>
+
 class QAbstractItemView;
 class QFileDialog;
 class QLineEdit;
@@ -24,5 +26,8 @@ void readNamesOnly(QFileDialog &dialog);
 /// Puts a widget below the name in place of the choice of file types.
 void addAccessory(QFileDialog &dialog, QWidget &accessory);
 void hideFileTypes(QFileDialog &dialog);
+
+/// The names of pictures that can be read, as patterns.
+QStringList imagePatterns();
 
 } // namespace tessaly::FileDialogParts

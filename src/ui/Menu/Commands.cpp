@@ -35,6 +35,7 @@ constexpr auto rows = std::to_array<CommandRow>({
     { Duplicate, QT_TRANSLATE_NOOP("Commands", "Duplicate"), "Ctrl+D", Menu::Edit, 1, "duplicate" },
     { CopyImage, QT_TRANSLATE_NOOP("Commands", "Copy Image"), "Ctrl+Shift+C", Menu::Edit, 2, "copy-image" },
     { Share, QT_TRANSLATE_NOOP("Commands", "Share…"), "", Menu::Edit, 2, "share" },
+    { CopyTextFromImage, QT_TRANSLATE_NOOP("Commands", "Copy Text from Image"), "", Menu::Edit, 2, "" },
     { CopyStyle, QT_TRANSLATE_NOOP("Commands", "Copy Style"), "Ctrl+Alt+C", Menu::Edit, 3, "copy-style" },
     // The key is also the Select tool's: the canvas takes it only when there is a style and a mark to give it to.
     { PasteStyle, QT_TRANSLATE_NOOP("Commands", "Paste Style"), "Ctrl+Alt+V", Menu::Edit, 3, "paste-style",
@@ -64,6 +65,8 @@ constexpr auto rows = std::to_array<CommandRow>({
     { CustomizeToolbar, QT_TRANSLATE_NOOP("Commands", "Customize Toolbar…"), "", Menu::View, 1, "" },
     { ToggleOptionsBar, QT_TRANSLATE_NOOP("Commands", "Show Options Bar"), "", Menu::View, 1, "", KeyScope::Window,
         QT_TRANSLATE_NOOP("Commands", "Hide Options Bar") },
+    { ToggleLiveText, QT_TRANSLATE_NOOP("Commands", "Show Live Text"), "", Menu::View, 1, "", KeyScope::Window,
+        QT_TRANSLATE_NOOP("Commands", "Hide Live Text") },
 
     { RotateCounterclockwise, QT_TRANSLATE_NOOP("Commands", "Rotate Counterclockwise"), "Ctrl+[", Menu::Image, 0,
         "rotate-left" },
@@ -73,6 +76,11 @@ constexpr auto rows = std::to_array<CommandRow>({
     { ResizeImage, QT_TRANSLATE_NOOP("Commands", "Resize Image…"), "Ctrl+Shift+R", Menu::Image, 1, "resize" },
     { Sharpen, QT_TRANSLATE_NOOP("Commands", "Sharpen…"), "", Menu::Image, 1, "sharpen" },
     { Crop, QT_TRANSLATE_NOOP("Commands", "Crop…"), "", Menu::Image, 1, "crop" },
+
+    { NewCollageSideBySide, QT_TRANSLATE_NOOP("Commands", "New Collage — Side by side"), "", Menu::Capture, 0, "" },
+    { NewCollageStacked, QT_TRANSLATE_NOOP("Commands", "New Collage — Stacked"), "", Menu::Capture, 0, "" },
+
+    { StartWindow, QT_TRANSLATE_NOOP("Commands", "Start Window"), "Ctrl+Shift+1", Menu::Window, 0, "" },
 
     { KeyboardShortcuts, QT_TRANSLATE_NOOP("Commands", "Keyboard Shortcuts"), "", Menu::Help, 0, "keyboard" },
     { Quit, QT_TRANSLATE_NOOP("Commands", "Quit Tessaly"), "Ctrl+Q", Menu::Application, 0, "" },

@@ -30,6 +30,7 @@ enum class CommandId {
     Duplicate,
     CopyImage,
     Share,
+    CopyTextFromImage,
     CopyStyle,
     PasteStyle,
     SaveStyle,
@@ -48,6 +49,7 @@ enum class CommandId {
     ZoomToFit,
     CustomizeToolbar,
     ToggleOptionsBar,
+    ToggleLiveText,
     RotateCounterclockwise,
     RotateClockwise,
     FlipHorizontal,
@@ -55,13 +57,16 @@ enum class CommandId {
     ResizeImage,
     Sharpen,
     Crop,
+    NewCollageSideBySide,
+    NewCollageStacked,
+    StartWindow,
     KeyboardShortcuts,
     Quit,
 };
 
 /// The menus, in their order, with the groups that separators divide. The commands of Application stand at the end of
 /// the File menu.
-enum class CommandMenu { Application, File, Edit, View, Tools, Image, Help };
+enum class CommandMenu { Application, File, Edit, View, Tools, Image, Capture, Window, Help };
 
 /// Who listens for the key of a command.
 enum class KeyScope {

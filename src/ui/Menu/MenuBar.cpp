@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
+
 namespace tessaly {
 
 namespace {
@@ -23,6 +25,8 @@ constexpr MenuTitle titles[] = {
     { CommandMenu::View, QT_TRANSLATE_NOOP("Menus", "&View") },
     { CommandMenu::Tools, QT_TRANSLATE_NOOP("Menus", "&Tools") },
     { CommandMenu::Image, QT_TRANSLATE_NOOP("Menus", "&Image") },
+    { CommandMenu::Capture, QT_TRANSLATE_NOOP("Menus", "&Capture") },
+    { CommandMenu::Window, QT_TRANSLATE_NOOP("Menus", "&Window") },
     { CommandMenu::Help, QT_TRANSLATE_NOOP("Menus", "&Help") },
 };
 
@@ -83,11 +87,22 @@ QMenu &submenu(QMenu &menu, const char *title)
     return *created;
 }
 
+/// The submenu opens while something in it can be done.
+void addToSubmenu(QMenu &menu, QAction &action)
+{
+    menu.addAction(&action);
+    const auto follow
+        = [&menu] { menu.menuAction()->setEnabled(std::ranges::any_of(menu.actions(), &QAction::isEnabled)); };
+    QObject::connect(&action, &QAction::enabledChanged, &menu, follow);
+    follow();
+}
+
 void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
 {
     int group = menu.isEmpty() ? 0 : -1;
+    const auto &isOffered = actions.hooks().isOffered;
     for (const CommandRow &row : commandTable()) {
-        if (row.menu != which)
+        if (row.menu != which || (isOffered && !isOffered(row.id)))
             continue;
         if (row.group != group)
             menu.addSeparator();
@@ -95,8 +110,10 @@ void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
         const ChoiceMenu *choices = choiceMenuOf(row.id, actions.hooks());
         if (choices && choices->choices)
             addChoices(menu, actions, row, *choices);
+        else if (*row.submenu)
+            addToSubmenu(submenu(menu, row.submenu), *actions.action(row.id));
         else
-            (*row.submenu ? submenu(menu, row.submenu) : menu).addAction(actions.action(row.id));
+            menu.addAction(actions.action(row.id));
     }
 }
 
@@ -105,15 +122,18 @@ void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
 void fillMenuBar(QMenuBar &bar, CommandActions &actions)
 {
     for (const auto &[which, title] : titles) {
-        QMenu *menu = bar.addMenu(QCoreApplication::translate("Menus", title));
-        QObject::connect(menu, &QMenu::aboutToShow, &actions, &CommandActions::refresh);
+        auto menu = std::make_unique<QMenu>(QCoreApplication::translate("Menus", title), &bar);
         addCommands(*menu, actions, which);
         if (which == CommandMenu::File)
             addCommands(*menu, actions, CommandMenu::Application);
-        if (which != CommandMenu::Tools)
+        if (which == CommandMenu::Tools && actions.hooks().currentTool) {
+            for (const ToolRow &row : toolTable())
+                menu->addAction(actions.toolAction(row.tool));
+        }
+        if (menu->isEmpty())
             continue;
-        for (const ToolRow &row : toolTable())
-            menu->addAction(actions.toolAction(row.tool));
+        QObject::connect(menu.get(), &QMenu::aboutToShow, &actions, &CommandActions::refresh);
+        bar.addMenu(menu.release());
     }
 }
 

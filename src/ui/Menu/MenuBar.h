@@ -9,8 +9,8 @@ namespace tessaly {
 
 class CommandActions;
 
-/// Fills the menu bar of a window: File, Edit, View, Tools, Image, Help. The state of the actions is asked again
-/// whenever a menu opens. The actions must live as long as the bar.
+/// Fills the menu bar of a window with what is offered; a menu that would be empty is left out. The state of the
+/// actions is asked again whenever a menu opens. The actions must live as long as the bar.
 void fillMenuBar(QMenuBar &bar, CommandActions &actions);
 
 } // namespace tessaly

@@ -20,7 +20,7 @@ namespace {
 
 constexpr CommandId general[] = { CommandId::Undo, CommandId::Redo, CommandId::Delete, CommandId::Copy, CommandId::Save,
     CommandId::ZoomIn, CommandId::ZoomOut, CommandId::ActualSize, CommandId::ZoomToFit,
-    CommandId::RotateCounterclockwise, CommandId::RotateClockwise, CommandId::ResizeImage };
+    CommandId::RotateCounterclockwise, CommandId::RotateClockwise, CommandId::ResizeImage, CommandId::StartWindow };
 
 constexpr int columnGap = 36;
 constexpr int pairsPerLine = 2;

@@ -33,6 +33,7 @@ constexpr StandardIcon standardIcons[] {
     { QStyle::SP_FileDialogToParent, "chevron-up" },
     { QStyle::SP_FileIcon, "file" },
     { QStyle::SP_FileLinkIcon, "file" },
+    { QStyle::SP_LineEditClearButton, "close" },
     { QStyle::SP_MessageBoxCritical, "alert-warning" },
     { QStyle::SP_MessageBoxInformation, "alert-information" },
     { QStyle::SP_MessageBoxQuestion, "alert-question" },
@@ -42,20 +43,28 @@ constexpr StandardIcon standardIcons[] {
     { QStyle::SP_ToolBarVerticalExtensionButton, "chevron-down" },
 };
 
-} // namespace
-
-QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption *option, const QWidget *widget) const
+/// Null for what the program has no icon of its own for.
+QIcon ownIcon(QStyle::StandardPixmap standard)
 {
     for (const StandardIcon &row : standardIcons) {
         if (row.standard == standard)
             return Icons::icon(QLatin1StringView(row.icon));
     }
-    return QProxyStyle::standardIcon(standard, option, widget);
+    return {};
+}
+
+} // namespace
+
+QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption *option, const QWidget *widget) const
+{
+    const QIcon icon = ownIcon(standard);
+    return icon.isNull() ? QProxyStyle::standardIcon(standard, option, widget) : icon;
 }
 
 QPixmap CalmStyle::standardPixmap(StandardPixmap standard, const QStyleOption *option, const QWidget *widget) const
 {
-    const QIcon icon = standardIcon(standard, option, widget);
+    // Not standardIcon(): the base class makes icons of pixmaps, and would come back here for ever.
+    const QIcon icon = ownIcon(standard);
     const int side = pixelMetric(PM_SmallIconSize, option, widget);
     return icon.isNull() ? QProxyStyle::standardPixmap(standard, option, widget) : icon.pixmap(side, side);
 }

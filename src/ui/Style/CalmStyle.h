@@ -34,10 +34,10 @@ public:
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
         QStyleHintReturn *returnData = nullptr) const override;
     /// The icons of file dialogs and alerts, in the family of all others.
-    QIcon standardIcon(StandardPixmap standard, const QStyleOption *option = nullptr,
-        const QWidget *widget = nullptr) const override;
-    QPixmap standardPixmap(StandardPixmap standard, const QStyleOption *option = nullptr,
-        const QWidget *widget = nullptr) const override;
+    QIcon standardIcon(
+        StandardPixmap standard, const QStyleOption *option = nullptr, const QWidget *widget = nullptr) const override;
+    QPixmap standardPixmap(
+        StandardPixmap standard, const QStyleOption *option = nullptr, const QWidget *widget = nullptr) const override;
 
 private:
     void drawMenuEntry(

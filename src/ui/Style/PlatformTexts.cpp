@@ -16,6 +16,10 @@ constexpr PlatformTexts::Row table[] = {
     { "Press a letter on the canvas to switch tools. The ⌥⌘ shortcuts in the Tools menu still work.",
         "Press a letter on the canvas to switch tools. The Ctrl+Alt shortcuts in the Tools menu still work." },
     { "Show in Finder", "Show in File Manager" },
+    { "Captures are kept only on this Mac, until you delete them.",
+        "Captures are kept only on this computer, until you delete them." },
+    { "Captures are kept only on this Mac, for %1 days.", "Captures are kept only on this computer, for %1 days." },
+    { "Live Text isn't available on this Mac", "Live Text isn't available on this computer" },
 };
 
 } // namespace

@@ -35,6 +35,19 @@ private Q_SLOTS:
         QTest::newRow("standard input twice") << QStringList { "export", "-", "-", "-o", "." } << "once";
         QTest::newRow("a document is no picture") << QStringList { "export", "a.png", "-o", "x.tessaly" } << "document";
         QTest::newRow("a picture is no document") << QStringList { "document", "a.png", "-o", "x.png" } << ".tessaly";
+        QTest::newRow("no layout") << QStringList { "collage", "a.png", "-o", "x.png" } << "--layout";
+        QTest::newRow("unknown layout") << QStringList { "collage", "a.png", "-o", "x.png", "--layout", "round" }
+                                        << "\"round\"";
+        QTest::newRow("no colour") << QStringList { "collage", "a.png", "-o", "x.png", "--layout", "stacked",
+            "--background", "whyte" }
+                                   << "\"whyte\"";
+        QTest::newRow("gap below nothing")
+            << QStringList { "collage", "a.png", "-o", "x.png", "--layout", "stacked", "--gap", "-1" } << "--gap";
+        QTest::newRow("nothing to read") << QStringList { "text" } << "IMAGE";
+        QTest::newRow("text of standard input twice") << QStringList { "text", "-", "-" } << "once";
+        QTest::newRow("no command of history") << QStringList { "history" } << "command";
+        QTest::newRow("nothing to search") << QStringList { "history", "search" } << "QUERY";
+        QTest::newRow("nobody to ask") << QStringList { "history", "empty" } << "--yes";
         QTest::newRow("display 0") << QStringList { "capture", "full-screen", "-o", "x", "--display", "0" }
                                    << "--display";
     }
@@ -58,13 +71,24 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("command");
         QTest::addColumn<QStringList>("names");
         QTest::newRow("tessaly") << QStringList()
-                                 << QStringList { "export", "document", "info", "capture", "--version" };
+                                 << QStringList { "export", "document", "info", "capture", "text", "history", "collage",
+                                        "--version" };
         QTest::newRow("export") << QStringList { "export" }
                                 << QStringList { "--output", "--format", "--quality", "--annotations", "--frame",
                                        "--watermark", "--scale", "--max-pixels", "INPUT..." };
         QTest::newRow("document") << QStringList { "document" } << QStringList { "--output", "--annotations" };
         QTest::newRow("info") << QStringList { "info" } << QStringList { "--json", "--frame" };
         QTest::newRow("capture") << QStringList { "capture" } << QStringList { "full-screen" };
+        QTest::newRow("text") << QStringList { "text" } << QStringList { "--json", "--codes", "IMAGE..." };
+        QTest::newRow("collage") << QStringList { "collage" }
+                                 << QStringList { "IMAGE... --layout side-by-side|stacked -o OUT", "--gap", "#FFFFFF" };
+        QTest::newRow("history") << QStringList { "history" }
+                                 << QStringList { "list", "search", "open", "export", "remove", "empty",
+                                        "tessaly history COMMAND --help" };
+        QTest::newRow("history search") << QStringList { "history", "search" }
+                                        << QStringList { "--json", "--no-recognition" };
+        QTest::newRow("history export") << QStringList { "history", "export" } << QStringList { "--output", "--frame" };
+        QTest::newRow("history empty") << QStringList { "history", "empty" } << QStringList { "--yes" };
         QTest::newRow("full-screen") << QStringList { "capture", "full-screen" } << QStringList { "--display" };
     }
 

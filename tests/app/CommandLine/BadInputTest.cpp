@@ -219,6 +219,25 @@ private Q_SLOTS:
         QCOMPARE(program.tree(), before);
         QCOMPARE(program.content("old.bmp"), "old");
     }
+
+    void whatNobodyGetsIsNotDone_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("text") << QStringList { "info", "good.png" };
+        QTest::newRow("picture") << QStringList { "export", "good.png", "-o", "-" };
+    }
+
+    void whatNobodyGetsIsNotDone()
+    {
+        QFETCH(QStringList, arguments);
+        Program program;
+        program.putPicture("good.png", { 40, 20 });
+        program.lacksOutput = true;
+        const Finished finished = program.run(arguments);
+        QCOMPARE(finished.status, 1);
+        const QString line = onlyLine(finished);
+        QVERIFY2(line.contains("Standard output could not be written"), qPrintable(line));
+    }
 };
 
 QTEST_GUILESS_MAIN(BadInputTest)

@@ -1,30 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/CommandLine/Program.h"
 
+#include "tests/support/TestFiles.h"
+
 #include <QDirIterator>
 #include <QProcess>
 #include <QProcessEnvironment>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace tessaly::test {
 
 Finished Program::run(const QStringList &arguments, const QByteArray &input) const
 {
+    return runProgram(QStringLiteral(TESSALY_PROGRAM), arguments, input);
+}
+
+Finished Program::runOnTerminal(const QStringList &arguments, const QByteArray &typed) const
+{
+    const QString command = QStringLiteral(TESSALY_PROGRAM) + u' ' + arguments.join(u' ');
+    return runProgram(QStringLiteral("script"),
+        { QStringLiteral("--quiet"), QStringLiteral("--return"), QStringLiteral("--command"), command,
+            QStringLiteral("/dev/null") },
+        typed);
+}
+
+Finished Program::runProgram(const QString &program, const QStringList &arguments, const QByteArray &input) const
+{
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral(".config")));
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), path(QStringLiteral(".data")));
     for (const char *name : { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" })
         environment.remove(QLatin1StringView(name));
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder.path());
-    if (fileLimit >= 0) {
-        process.setChildProcessModifier([limit = static_cast<rlim_t>(fileLimit)] {
-            const rlimit limits { limit, limit };
+    process.setChildProcessModifier([this] {
+        const rlimit limits { static_cast<rlim_t>(fileLimit), static_cast<rlim_t>(fileLimit) };
+        if (fileLimit >= 0)
             ::setrlimit(RLIMIT_FSIZE, &limits);
-        });
-    }
-    process.start(QStringLiteral(TESSALY_PROGRAM), arguments);
+        if (lacksOutput)
+            ::close(STDOUT_FILENO);
+    });
+    process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
     Finished finished;
@@ -37,16 +56,11 @@ Finished Program::run(const QStringList &arguments, const QByteArray &input) con
 
 void Program::put(const QString &name, const QByteArray &bytes) const
 {
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+    if (!writeFile(path(name), bytes))
         qFatal("%s cannot be written", qPrintable(name));
 }
 
-QByteArray Program::content(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+QByteArray Program::content(const QString &name) const { return fileContent(path(name)); }
 
 QImage Program::putPicture(const QString &name, QSize pixelSize, int dpi) const
 {

@@ -21,8 +21,13 @@ class Program {
 public:
     /// The most bytes that a file it writes may have; writing more fails as on a full disk.
     qint64 fileLimit = -1;
+    /// Whether it is started without a standard output.
+    bool lacksOutput = false;
 
     Finished run(const QStringList &arguments, const QByteArray &input = {}) const;
+
+    /// The same on a terminal, on which `typed` is answered; what it shows is the output.
+    Finished runOnTerminal(const QStringList &arguments, const QByteArray &typed) const;
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     void put(const QString &name, const QByteArray &bytes) const;
@@ -35,6 +40,8 @@ public:
     QStringList tree() const;
 
 private:
+    Finished runProgram(const QString &program, const QStringList &arguments, const QByteArray &input) const;
+
     QTemporaryDir m_folder;
 };
 

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Preferences/Settings.h"
 
-#include <QDir>
+#include "tests/support/TestFiles.h"
+
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessaly;
+using test::fileContent;
+using test::namesIn;
+using test::writeFile;
 
 /// Settings as their file shows them.
 class SettingsTest : public QObject {
@@ -15,24 +19,8 @@ class SettingsTest : public QObject {
     QTemporaryDir m_folder;
     QString m_path;
 
-    void writeFile(const QByteArray &bytes) const
-    {
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    QByteArray fileText() const
-    {
-        QFile file(m_path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QJsonObject stored() const { return QJsonDocument::fromJson(fileText()).object(); }
-    QStringList files() const
-    {
-        return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    QJsonObject stored() const { return QJsonDocument::fromJson(fileContent(m_path)).object(); }
+    QStringList files() const { return namesIn(m_folder.path()); }
 
 private Q_SLOTS:
     void init()
@@ -61,7 +49,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, json);
         if (!json.isNull())
-            writeFile(json);
+            QVERIFY(writeFile(m_path, json));
         const Settings settings(m_path);
         QVERIFY(!settings.problem());
         QTEST(settings.value(SettingKeys::exportFormat), "format");
@@ -71,7 +59,7 @@ private Q_SLOTS:
 
     void storesOnlyWhatDiffers()
     {
-        writeFile(R"({"future":[1,{"a":2}],"jpegQuality":0.5})");
+        QVERIFY(writeFile(m_path, R"({"future":[1,{"a":2}],"jpegQuality":0.5})"));
         Settings settings(m_path);
         QVERIFY(settings.set(SettingKeys::exportFormat, QStringLiteral("webp")));
         QVERIFY(settings.set(SettingKeys::copyAtFullSize, true));
@@ -104,19 +92,19 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         for (int round = 1; round <= 2; ++round) {
-            writeFile(content);
+            QVERIFY(writeFile(m_path, content));
             Settings settings(m_path);
             QVERIFY(settings.problem());
             QVERIFY(settings.problem()->message.contains(m_path));
             QCOMPARE(settings.value(SettingKeys::exportFormat), QStringLiteral("png"));
-            QCOMPARE(fileText(), content); // reading alone touches nothing
+            QCOMPARE(fileContent(m_path), content); // reading alone touches nothing
             QVERIFY(settings.set(SettingKeys::exportFormat, QStringLiteral("bmp")));
             QVERIFY(!settings.problem());
             QVERIFY(settings.set(SettingKeys::exportFormat, QStringLiteral("gif")));
             QCOMPARE(files().size(), round + 1);
         }
         m_path += QStringLiteral(".unreadable-2");
-        QCOMPARE(fileText(), content);
+        QCOMPARE(fileContent(m_path), content);
     }
 
     void createsTheFolder()
@@ -128,7 +116,7 @@ private Q_SLOTS:
 
     void keepsTheValueWhereWritingFails()
     {
-        writeFile("a file where the folder must go");
+        QVERIFY(writeFile(m_path, "a file where the folder must go"));
         Settings settings(m_path + QStringLiteral("/settings.json"));
         const auto outcome = settings.set(SettingKeys::webpQuality, 0.25);
         QVERIFY(!outcome);

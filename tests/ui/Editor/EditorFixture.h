@@ -6,8 +6,11 @@
 #include "core/Document/RecentDocuments.h"
 #include "core/Editing/MarkCommands.h"
 #include "core/Frame/FrameSettings.h"
+#include "core/History/CaptureHistory.h"
 #include "core/Preferences/Settings.h"
+#include "core/Text/TextCopier.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeRecognition.h"
 #include "ui/Editor/EditorView.h"
 #include "ui/Style/Appearance.h"
 
@@ -45,11 +48,17 @@ public:
     FakeSharing sharing;
     FakeAlerts alerts;
     FakeSavePanels panels;
+    FakeOpenPanels openPanels;
     FakeWork work;
     ExportService exports { { settings, clipboard, alerts, panels, sharing, work, clock } };
     DocumentActions documents { { settings, alerts, panels, work, exports, recentDocuments } };
+    CaptureHistory history { { { folder.filePath(QStringLiteral("History")) }, settings, clock } };
+    FakeRecognizer recognizer;
+    FakeToasts toasts;
+    FakeLinks links;
+    TextCopier textCopier { recognizer, clipboard, toasts, links };
     EditorServices services { settings, styles, copiedStyle, frameSettings, clipboard, alerts, work, exports, documents,
-        recentDocuments, appearance, clock };
+        recentDocuments, appearance, clock, history, recognizer, textCopier, toasts, links, openPanels };
 
     /// An editor with a grey capture at two pixels a point.
     std::unique_ptr<EditorView> makeView(QSize pixels = { 400, 300 })

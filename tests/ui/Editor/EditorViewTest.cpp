@@ -159,6 +159,42 @@ private Q_SLOTS:
         QCOMPARE(view->store().tool(), Tool::Select);
     }
 
+    void textIsReadWithoutWhatIsHidden_data()
+    {
+        QTest::addColumn<std::optional<AnnotationKind>>("kind"); // of a mark over the left half
+        QTest::addColumn<bool>("hides");
+        using Kind = std::optional<AnnotationKind>;
+        QTest::newRow("no mark") << Kind() << false;
+        QTest::newRow("a mark beside the text") << Kind(AnnotationKind::Highlight) << false;
+        QTest::newRow("an obscured area") << Kind(AnnotationKind::Pixelate) << true;
+    }
+
+    void textIsReadWithoutWhatIsHidden()
+    {
+        QFETCH(std::optional<AnnotationKind>, kind);
+        QFETCH(bool, hides);
+        EditorFixture fixture;
+        const auto view = fixture.makeView();
+        if (kind) {
+            Annotation mark(*kind, { 0, 0 }, { 100, 150 });
+            mark.obscure = ObscureStyle::Solid;
+            view->store().append(mark);
+        }
+        view->perform(CommandId::CopyTextFromImage);
+        const RasterImage read = fixture.recognizer.pending.first()->request.image;
+        QCOMPARE(read.pointSize, QSizeF(200, 150));
+        QCOMPARE(read.pixels.pixelColor(50, 50) != Qt::gray, hides);
+        QCOMPARE(read.pixels.pixelColor(350, 50), QColor(Qt::gray));
+        fixture.recognizer.answer(RecognizedContent { { { QStringLiteral("words"), {} } }, {} });
+        QCOMPARE(fixture.clipboard.data(QStringLiteral("text/plain")), QByteArray("words"));
+        QCOMPARE(fixture.toasts.shown, QStringList { QStringLiteral("Text copied to clipboard") });
+        QVERIFY(!view->store().hasUnsavedChanges());
+        fixture.recognizer.supported = false;
+        view->perform(CommandId::CopyTextFromImage);
+        QVERIFY(fixture.recognizer.pending.isEmpty());
+        QCOMPARE(text(*view, "statusMessage"), QStringLiteral("Live Text isn't available on this Mac"));
+    }
+
     void optionsBarFollowsTheSetting()
     {
         EditorFixture fixture;

@@ -8,6 +8,7 @@
 #include "ui/Editor/EditorWindow.h"
 
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -262,13 +263,164 @@ private Q_SLOTS:
         } alerts;
         test::EditorFixture desk;
         EditorServices services { desk.settings, desk.styles, desk.copiedStyle, desk.frameSettings, desk.clipboard,
-            alerts, desk.work, desk.exports, desk.documents, desk.recentDocuments, desk.appearance, desk.clock };
+            alerts, desk.work, desk.exports, desk.documents, desk.recentDocuments, desk.appearance, desk.clock,
+            desk.history, desk.recognizer, desk.textCopier, desk.toasts, desk.links, desk.openPanels };
         EditorWindowController editors(services);
         for (const char *title : { "a", "b" })
             dirty(editors.open({ .image = *readImage(pictureBytes(), {}), .title = title }));
         QVERIFY(!editors.closeAll());
         QCOMPARE(alerts.asked, 2);
         QCOMPARE(editors.dirtyEditors().size(), 2);
+    }
+
+    /// Which editors the history follows, and from when on.
+    void whatIsNewIsKept_data()
+    {
+        using Open = std::function<void(test::EditorFixture &, EditorWindowController &)>;
+        QTest::addColumn<Open>("open");
+        QTest::addColumn<QStringList>("atOnce"); // titles in the history
+        QTest::addColumn<QStringList>("changed");
+        const auto row = [](const char *name, const QStringList &atOnce, const QStringList &changed, Open open) {
+            QTest::newRow(name) << open << atOnce << changed;
+        };
+        row("image file", { "a.png" }, { "a.png" }, [](auto &desk, auto &editors) {
+            put(desk.folder.filePath("a.png"), pictureBytes());
+            editors.openFile(desk.folder.filePath("a.png"));
+        });
+        row("clipboard", { "Pasted image" }, { "Pasted image" }, [](auto &desk, auto &editors) {
+            desk.clipboard.offer(std::make_unique<test::FixedOffer>("image/png", pictureBytes()));
+            editors.perform(CommandId::NewFromClipboard);
+        });
+        row("blank", {}, { "Untitled" }, [](auto &, auto &editors) { editors.openBlank(); });
+        row("document", {}, {}, [](auto &desk, auto &editors) {
+            putDocument(desk.folder.filePath("a.tessaly"));
+            editors.openFile(desk.folder.filePath("a.tessaly"));
+        });
+    }
+
+    void whatIsNewIsKept()
+    {
+        using Open = std::function<void(test::EditorFixture &, EditorWindowController &)>;
+        QFETCH(Open, open);
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        const auto titles = [&desk] {
+            desk.history.flush();
+            QStringList all;
+            for (const HistoryEntry &entry : desk.history.entries())
+                all += entry.title;
+            return all;
+        };
+        open(desk, editors);
+        QTEST(titles(), "atOnce");
+        auto *window = activeWindow();
+        QVERIFY(window);
+        dirty(*window->currentEditor());
+        QTEST(titles(), "changed");
+        desk.alerts.answer = 1; // cancel
+        const bool isKept = !desk.history.entries().isEmpty();
+        QCOMPARE(editors.closeAll(), isKept);
+        QCOMPARE(desk.alerts.shown.isEmpty(), isKept);
+    }
+
+    void whatCannotBeKeptIsAskedFor()
+    {
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        put(desk.folder.filePath("History"), "no folder");
+        EditorView &view = editors.openCapture(*readImage(pictureBytes(), {}), "a");
+        dirty(view);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Tessaly: no se pudo guardar en el historial: .+"));
+        desk.alerts.answer = 1;
+        QVERIFY(!editors.closeAll());
+        QCOMPARE(desk.alerts.shown.size(), 1);
+        desk.alerts.answer = 2;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Tessaly: no se pudo guardar en el historial: .+"));
+        QVERIFY(editors.closeAll());
+    }
+
+    void aCaptureOfTheHistoryOpensWithAllItHolds()
+    {
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        EditorView &first = editors.openCapture(*readImage(pictureBytes(), {}), "Mail");
+        dirty(first);
+        first.store().setNextStampNumber(4);
+        first.store().setFrame(FrameStyle { .padding = 0.2 }, Undo::Record);
+        const Snapshot before = first.store().currentSnapshot();
+        QVERIFY(editors.closeAll());
+        QVERIFY(!editors.hasEditors());
+        desk.history.flush();
+        const QUuid id = desk.history.entries().first().id;
+
+        QVERIFY(editors.openHistoryEntry(id));
+        auto *window = activeWindow();
+        QVERIFY(window);
+        EditorView *view = window->currentEditor();
+        QCOMPARE(view->store().currentSnapshot(), before);
+        QVERIFY(!view->store().documentURL());
+        QVERIFY(!view->store().hasUnsavedChanges());
+        QVERIFY(window->windowTitle().startsWith("Mail"));
+        QVERIFY(desk.recentDocuments.paths().isEmpty());
+        editors.openBlank();
+        QVERIFY(editors.openHistoryEntry(id)); // comes to the front
+        QTRY_COMPARE(activeWindow(), window);
+        QCOMPARE(QApplication::topLevelWidgets().count(window), 1);
+        dirty(*view);
+        QVERIFY(editors.closeAll());
+        desk.history.flush();
+        QCOMPARE(desk.history.entries().size(), 1);
+        QVERIFY(desk.alerts.shown.isEmpty());
+    }
+
+    void anEntryThatCannotBeRewrittenStaysAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("json"); // empty: no document at all
+        QTest::addColumn<QString>("alert");
+        QTest::newRow("gone") << QByteArray() << "Couldn't open the document";
+        QTest::newRow("newer") << QByteArray("\"version\": 2") << "This document comes from a newer version of Tessaly";
+    }
+
+    void anEntryThatCannotBeRewrittenStaysAsItIs()
+    {
+        QFETCH(QByteArray, json);
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        const QUuid id = *desk.history.record(*readImage(pictureBytes(), {}), "Mail");
+        desk.history.flush();
+        const QString path = desk.history.packagePath(id);
+        if (json.isEmpty())
+            QVERIFY(QDir(path).removeRecursively());
+        else
+            changeJson(path, "\"version\": 1", json);
+        QCOMPARE(editors.openHistoryEntry(id), !json.isEmpty());
+        QCOMPARE(desk.alerts.shown.size(), 1);
+        QTEST(desk.alerts.shown.first(), "alert");
+        desk.history.flush();
+        QCOMPARE(desk.history.entries().isEmpty(), json.isEmpty());
+        if (json.isEmpty())
+            return;
+        dirty(*activeWindow()->currentEditor());
+        QVERIFY(editors.closeAll());
+        desk.history.flush();
+        QCOMPARE(desk.history.entries().size(), 2); // the copy is a capture of its own
+        const auto original = TessalyDocument::contents(path);
+        QVERIFY(original && original->document.version == 2);
+    }
+
+    void withoutEditorsTheStartWindowIsAskedFor()
+    {
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        const QSignalSpy start(&editors, &EditorWindowController::startWindowRequested);
+        editors.activateOrOpenBlank();
+        QCOMPARE(start.size(), 1);
+        QVERIFY(!editors.hasEditors());
+        editors.openBlank();
+        editors.activateOrOpenBlank();
+        QCOMPARE(start.size(), 1);
+        editors.perform(CommandId::StartWindow);
+        QCOMPARE(start.size(), 2);
     }
 
     void commandsOpenAndQuit()
@@ -278,7 +430,7 @@ private Q_SLOTS:
         const QSignalSpy quits(&editors, &EditorWindowController::quitRequested);
         editors.perform(CommandId::NewFromClipboard);
         QVERIFY(!editors.hasEditors());
-        QCOMPARE(desk.alerts.shown.size(), 1);
+        QCOMPARE(desk.toasts.shown, QStringList("No image on the clipboard"));
         desk.clipboard.offer(std::make_unique<test::FixedOffer>("image/png", pictureBytes({ 50, 20 })));
         editors.perform(CommandId::NewFromClipboard);
         auto *window = activeWindow();

@@ -163,6 +163,31 @@ private Q_SLOTS:
         }
     }
 
+    void liveTextIsSwitchedForAllTabs()
+    {
+        Fixture fixture;
+        fixture.add(QStringLiteral("a"));
+        EditorView *view = fixture.add(QStringLiteral("b"));
+        fixture.window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(fixture.window));
+        const auto action = [&](const QString &title) {
+            for (QAction *each : fixture.window->findChildren<QAction *>())
+                if (each->text() == title)
+                    return each;
+            return static_cast<QAction *>(nullptr);
+        };
+        QVERIFY(action(QStringLiteral("Show Live Text")));
+        action(QStringLiteral("Show Live Text"))->trigger();
+        QVERIFY(fixture.settings.value(SettingKeys::liveTextEnabled));
+        QTRY_COMPARE(fixture.recognizer.pending.size(), 1); // the tab that is seen
+        fixture.window->activate(fixture.window->editors().first());
+        QTRY_COMPARE(fixture.recognizer.pending.size(), 2);
+        QVERIFY(action(QStringLiteral("Hide Live Text")));
+        action(QStringLiteral("Hide Live Text"))->trigger();
+        QCOMPARE(fixture.recognizer.cancelled, 2);
+        QVERIFY(!view->canvas().isVisible());
+    }
+
     void theWindowFitsTheCapture()
     {
         Fixture fixture;

@@ -42,7 +42,7 @@ private Q_SLOTS:
         pixels.fill(Qt::white);
         AnnotationStore store(RasterImage::fromPixels(pixels), desk.settings);
         store.setHasUnsavedChanges(dirty);
-        const Answer answer = UnsavedChangesAlert::run(store, desk.alerts, desk.documents);
+        const Answer answer = UnsavedChangesAlert::run(store, { desk.alerts, desk.documents, desk.history, desk.work });
         QTEST(int(answer), "answer");
         QTEST(store.hasUnsavedChanges(), "unsaved");
         QCOMPARE(desk.alerts.shown.value(0), dirty ? "Do you want to save your annotations?" : QString());

@@ -3,6 +3,7 @@
 #include "ui/Export/DocumentFileDialog.h"
 #include "ui/Export/FileDialogParts.h"
 #include "ui/Export/SaveImageDialog.h"
+#include "ui/Export/WidgetOpenPanels.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -181,6 +182,42 @@ private Q_SLOTS:
         QCOMPARE(dialog.chosenPaths(), chosen ? QStringList(path(entry)) : QStringList());
         QCOMPARE(dialog.result() == QDialog::Accepted, chosen);
         QCOMPARE(dialog.directory().dirName() == "sub", !chosen);
+    }
+
+    void picturesAreChosenInTheirOrder_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("accepts");
+        QTest::addColumn<QStringList>("chosen");
+        const QString both = QStringLiteral("\x22%1\x22 \x22%2\x22").arg(path("there.png"), path("also.png"));
+        QTest::newRow("two") << both << true << QStringList { path("there.png"), path("also.png") };
+        QTest::newRow("cancelled") << both << false << QStringList();
+    }
+
+    void picturesAreChosenInTheirOrder()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, accepts);
+        QFile also(path("also.png"));
+        QVERIFY(also.open(QIODevice::WriteOnly));
+        QString filter;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            answer.stop();
+            filter = dialog->nameFilters().first();
+            FileDialogParts::nameField(*dialog)->setText(typed);
+            accepts ? static_cast<QDialog *>(dialog)->accept() : dialog->reject();
+        });
+        answer.start(0);
+        const auto chosen = WidgetOpenPanels().chooseImages();
+        QVERIFY(also.remove());
+        QCOMPARE(chosen.has_value(), accepts);
+        QTEST(chosen.value_or(QStringList()), "chosen");
+        QVERIFY2(
+            filter.contains("*.png") && filter.contains("*.webp") && !filter.contains("tessaly"), qPrintable(filter));
     }
 };
 

@@ -138,6 +138,16 @@ private Q_SLOTS:
         box.addItem(QStringLiteral("one more"));
         QVERIFY(!isMenu());
     }
+    /// Fusion makes icons of pixmaps and pixmaps of icons, each through the style that stands before it.
+    void everyStandardIconCanBeAskedFor()
+    {
+        const CalmStyle style;
+        for (int standard = 0; standard <= int(QStyle::SP_LineEditClearButton); ++standard) {
+            style.standardIcon(QStyle::StandardPixmap(standard));
+            style.standardPixmap(QStyle::StandardPixmap(standard));
+        }
+        QVERIFY(!style.standardIcon(QStyle::SP_LineEditClearButton).isNull());
+    }
 };
 
 QTEST_MAIN(CalmStyleTest)

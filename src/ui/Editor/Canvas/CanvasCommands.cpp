@@ -4,6 +4,7 @@
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Desktop/Clipboard.h"
 #include "core/Editing/CanvasController.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/TextEditor.h"
 
 #include <algorithm>
@@ -102,10 +103,11 @@ const CanvasCommands::Row *CanvasCommands::rowOf(CommandId command)
 }
 
 CanvasCommands::CanvasCommands(AnnotationStore &store, CanvasController &controller, TextEditor &text,
-    Clipboard &clipboard, SavedStyles &styles, CopiedStyle &copiedStyle) :
+    Clipboard &clipboard, SavedStyles &styles, CopiedStyle &copiedStyle, const CanvasLayerSlot &layer) :
     m_store(store),
     m_controller(controller),
     m_text(text),
+    m_layer(layer),
     m_clipboard(clipboard),
     m_marks(store, styles, copiedStyle)
 {
@@ -150,7 +152,9 @@ void CanvasCommands::paste(std::optional<QPointF> at) { report(m_clipboard.paste
 
 void CanvasCommands::copy()
 {
-    if (m_store.selected())
+    if (m_layer->canCopy())
+        m_layer->copy();
+    else if (m_store.selected())
         m_clipboard.copy(m_store);
     else
         Q_EMIT copyImageRequested();

@@ -11,6 +11,7 @@ namespace tessaly {
 
 class AnnotationStore;
 class CanvasController;
+class CanvasLayerSlot;
 class TextEditor;
 
 /// The commands that a canvas performs: those on marks, and while a text is edited those on the text.
@@ -20,7 +21,7 @@ class CanvasCommands : public QObject, public CommandTarget {
 public:
     /// Keeps the references.
     CanvasCommands(AnnotationStore &store, CanvasController &controller, TextEditor &text, Clipboard &clipboard,
-        SavedStyles &styles, CopiedStyle &copiedStyle);
+        SavedStyles &styles, CopiedStyle &copiedStyle, const CanvasLayerSlot &layer);
 
     bool knows(CommandId command) const override;
     bool canPerform(CommandId command) const override;
@@ -51,6 +52,7 @@ private:
     AnnotationStore &m_store;
     CanvasController &m_controller;
     TextEditor &m_text;
+    const CanvasLayerSlot &m_layer;
     MarkClipboard m_clipboard;
     MarkCommands m_marks;
 };

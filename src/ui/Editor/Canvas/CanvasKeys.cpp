@@ -4,6 +4,7 @@
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Editing/CanvasController.h"
 #include "ui/Editor/Canvas/CanvasCommands.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/CanvasPointer.h"
 #include "ui/Editor/Canvas/TextEditor.h"
 #include "ui/Editor/Canvas/TextKeys.h"
@@ -47,12 +48,13 @@ bool isKeyOf(const CommandRow &row, QKeyCombination pressed)
 } // namespace
 
 CanvasKeys::CanvasKeys(AnnotationStore &store, CanvasController &controller, CanvasPointer &pointer,
-    CanvasCommands &commands, TextEditor &text) :
+    CanvasCommands &commands, TextEditor &text, const CanvasLayerSlot &layer) :
     m_store(store),
     m_controller(controller),
     m_pointer(pointer),
     m_commands(commands),
-    m_text(text)
+    m_text(text),
+    m_layer(layer)
 {
 }
 
@@ -87,7 +89,8 @@ bool CanvasKeys::press(const QKeyEvent &event)
         TextKeys::press(event, m_text);
         return TextKeys::belongsToText(event);
     }
-    return pressSpecial(event) || nudge(event) || pressDigit(event) || pressCommand(event) || pressToolLetter(event);
+    return m_layer->key(event) || pressSpecial(event) || nudge(event) || pressDigit(event) || pressCommand(event)
+        || pressToolLetter(event);
 }
 
 bool CanvasKeys::release(const QKeyEvent &event)

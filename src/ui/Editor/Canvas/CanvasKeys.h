@@ -10,6 +10,7 @@ namespace tessaly {
 class AnnotationStore;
 class CanvasCommands;
 class CanvasController;
+class CanvasLayerSlot;
 class CanvasPointer;
 class TextEditor;
 
@@ -20,7 +21,7 @@ class CanvasKeys : public QObject {
 public:
     /// Keeps the references.
     CanvasKeys(AnnotationStore &store, CanvasController &controller, CanvasPointer &pointer, CanvasCommands &commands,
-        TextEditor &text);
+        TextEditor &text, const CanvasLayerSlot &layer);
 
     /// Whether a shortcut of the window must leave this key to the canvas.
     bool claims(const QKeyEvent &event) const;
@@ -46,6 +47,7 @@ private:
     CanvasPointer &m_pointer;
     CanvasCommands &m_commands;
     TextEditor &m_text;
+    const CanvasLayerSlot &m_layer;
 };
 
 } // namespace tessaly

@@ -4,6 +4,7 @@
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Editing/CanvasController.h"
 #include "ui/Editor/Canvas/CanvasCommands.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/TextEditor.h"
 #include "ui/Menu/ContextMenu.h"
 #include "ui/Style/Icons.h"
@@ -26,13 +27,14 @@ void addAll(QMenu &menu, CommandTarget &target, std::initializer_list<CommandId>
 } // namespace
 
 CanvasMenu::CanvasMenu(QWidget &widget, AnnotationStore &store, const CanvasController &controller,
-    CanvasCommands &commands, TextEditor &text, CommandTarget &requests) :
+    CanvasCommands &commands, TextEditor &text, CommandTarget &requests, const CanvasLayerSlot &layer) :
     m_widget(widget),
     m_store(store),
     m_controller(controller),
     m_commands(commands),
     m_text(text),
-    m_requests(requests)
+    m_requests(requests),
+    m_layer(layer)
 {
 }
 
@@ -40,6 +42,8 @@ void CanvasMenu::openAt(QPointF view)
 {
     if (m_text.isActive() && !m_text.isOver(view))
         m_text.finish();
+    if (!m_text.isActive() && m_layer->openMenu(view))
+        return;
     if (!m_text.isActive() && !m_store.isCropping()) {
         const auto mark = m_controller.markAt(view);
         m_store.setSelectedID(mark);
@@ -51,6 +55,8 @@ void CanvasMenu::openAt(QPointF view)
 
 void CanvasMenu::openForSelection()
 {
+    if (!m_text.isActive() && m_layer->openMenu({}))
+        return;
     const QRectF everything(m_widget.rect());
     QPointF place = everything.center();
     if (const Annotation *selected = m_store.selected()) {

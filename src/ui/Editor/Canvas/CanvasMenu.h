@@ -12,6 +12,7 @@ namespace tessaly {
 class AnnotationStore;
 class CanvasCommands;
 class CanvasController;
+class CanvasLayerSlot;
 class CommandTarget;
 class TextEditor;
 
@@ -22,7 +23,7 @@ class CanvasMenu : public QObject {
 public:
     /// Keeps the references. `requests` takes the commands that the canvas leaves to its window.
     CanvasMenu(QWidget &widget, AnnotationStore &store, const CanvasController &controller, CanvasCommands &commands,
-        TextEditor &text, CommandTarget &requests);
+        TextEditor &text, CommandTarget &requests, const CanvasLayerSlot &layer);
 
     /// For what lies at a view position; a mark is selected by it.
     void openAt(QPointF view);
@@ -41,6 +42,7 @@ private:
     CanvasCommands &m_commands;
     TextEditor &m_text;
     CommandTarget &m_requests;
+    const CanvasLayerSlot &m_layer;
     QPointer<QMenu> m_menu;
 };
 

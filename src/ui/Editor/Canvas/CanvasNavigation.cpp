@@ -183,13 +183,14 @@ QPointF CanvasNavigation::edgePull() const
             return edgeWidth - position;
         return std::min(0.0, length - edgeWidth - position);
     };
-    return { pull(m_drag.position.x(), m_viewport.size().width()),
-        pull(m_drag.position.y(), m_viewport.size().height()) };
+    return { pull(m_dragged.position.x(), m_viewport.size().width()),
+        pull(m_dragged.position.y(), m_viewport.size().height()) };
 }
 
-void CanvasNavigation::followDrag(const PointerInput &input)
+void CanvasNavigation::followDrag(const PointerInput &input, Drag drag)
 {
-    m_drag = input;
+    m_dragged = input;
+    m_drag = std::move(drag);
     m_isUntouched = false;
     if (edgePull().isNull())
         m_edgeTimer.stop();
@@ -201,7 +202,7 @@ void CanvasNavigation::endDrag() { m_edgeTimer.stop(); }
 
 void CanvasNavigation::scrollAtEdge()
 {
-    if (!m_controller.isGestureActive()) {
+    if (!m_drag.isActive()) {
         m_edgeTimer.stop();
         return;
     }
@@ -209,7 +210,7 @@ void CanvasNavigation::scrollAtEdge()
     if (!m_viewport.scrollBy(edgePull() * edgeSpeed))
         return;
     publish();
-    m_controller.move(m_drag);
+    m_drag.move(m_dragged);
 }
 
 } // namespace tessaly

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 
 class QEvent;
@@ -48,8 +49,13 @@ public:
     void endPan();
     bool isPanning() const { return m_panFrom.has_value(); }
 
-    /// A gesture's pointer; while it stays near an edge, the canvas scrolls and the gesture goes on with it.
-    void followDrag(const PointerInput &input);
+    /// Something that the pointer drags.
+    struct Drag {
+        std::function<bool()> isActive;
+        std::function<void(const PointerInput &)> move;
+    };
+    /// While the pointer stays near an edge, the canvas scrolls and the drag goes on with it.
+    void followDrag(const PointerInput &input, Drag drag);
     void endDrag();
 
 Q_SIGNALS:
@@ -71,7 +77,8 @@ private:
     EditorZoom &m_zoom;
     std::optional<QPointF> m_fixed; ///< the view position to zoom about; else the middle
     std::optional<QPointF> m_panFrom;
-    PointerInput m_drag;
+    PointerInput m_dragged;
+    Drag m_drag;
     QTimer m_edgeTimer;
     bool m_isUntouched = true;
     bool m_isFitting = false;

@@ -159,6 +159,26 @@ void paintText(QPainter &painter, const CanvasOverlay &overlay)
     }
 }
 
+QRectF layerFrame(const CanvasOverlay &overlay)
+{
+    constexpr double air = 3;
+    return overlay.transform.toView(*overlay.layer.framed).adjusted(-air, -air, air, air);
+}
+
+void paintLayer(QPainter &painter, const CanvasOverlay &overlay)
+{
+    QColor selection = overlay.layer.color;
+    selection.setAlphaF(0.4F);
+    QPainterPath lines; // as one, for they may overlap
+    lines.setFillRule(Qt::WindingFill);
+    for (const QRectF &box : overlay.layer.selection)
+        lines.addRect(overlay.transform.toView(box).adjusted(-1, -1, 1, 1));
+    painter.strokePath(lines, QPen(contrast, 2)); // on a ground of the same colour the filling cannot be seen
+    painter.fillPath(lines, selection);
+    if (overlay.layer.framed)
+        drawLegibly(painter, overlay.layer.color, 2, [&] { painter.drawRoundedRect(layerFrame(overlay), 4, 4); });
+}
+
 /// Guides are level or upright and may be as long as the view: filled rectangles take a fraction of what lines take.
 void paintGuides(QPainter &painter, const CanvasOverlay &overlay, QSizeF view)
 {
@@ -202,6 +222,10 @@ QRegion CanvasPainter::area(const CanvasOverlay &overlay, QSizeF view)
             region += grown(overlay.transform.toView(box), 2);
     if (overlay.text.caret)
         region += grown(caretBox(overlay), 2);
+    for (const QRectF &box : overlay.layer.selection)
+        region += grown(overlay.transform.toView(box), 3);
+    if (overlay.layer.framed)
+        region += frameArea(layerFrame(overlay));
     return region & everything;
 }
 
@@ -209,6 +233,7 @@ void CanvasPainter::paint(QPainter &painter, const CanvasOverlay &overlay, QSize
 {
     const CanvasAdornments &adornments = overlay.adornments;
     painter.setRenderHint(QPainter::Antialiasing);
+    paintLayer(painter, overlay);
     if (adornments.crop)
         paintCrop(painter, overlay, view);
     if (adornments.hovered) {

@@ -4,6 +4,7 @@
 #include "core/Editing/CanvasAdornments.h"
 #include "core/Editing/CanvasTransform.h"
 
+#include <QColor>
 #include <QRegion>
 #include <QSizeF>
 
@@ -21,10 +22,20 @@ struct TextMarks {
     bool operator==(const TextMarks &) const = default;
 };
 
+/// What a layer over the capture shows, in image points.
+struct LayerMarks {
+    QColor color;
+    QList<QRectF> selection; ///< filled, so that what is below can be read
+    std::optional<QRectF> framed;
+
+    bool operator==(const LayerMarks &) const = default;
+};
+
 /// Everything that is painted over the capture while it is edited.
 struct CanvasOverlay {
     CanvasAdornments adornments;
     TextMarks text;
+    LayerMarks layer;
     CanvasTransform transform;
     QSizeF imageSize; ///< points
     double pixelScale = 1; ///< of the capture, for the size label of the crop

@@ -5,6 +5,7 @@
 #include "core/Rendering/TextGeometry.h"
 #include "ui/Editor/Canvas/CanvasCommands.h"
 #include "ui/Editor/Canvas/CanvasKeys.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/CanvasMenu.h"
 #include "ui/Editor/Canvas/CanvasNavigation.h"
 #include "ui/Editor/Canvas/CanvasPointer.h"
@@ -33,19 +34,20 @@ struct CanvasView::Implementation {
     Implementation(CanvasView &view, AnnotationStore &annotations, EditorZoom &zoom, const Services &services) :
         store(annotations),
         controller(store, textGeometry, services.clock),
-        surface(view, store, controller, viewport),
+        surface(view, store, controller, viewport, layer),
         navigation(view, store, controller, viewport, zoom),
         bars(view, viewport, navigation),
         text(store, textGeometry, controller, services.clipboard),
-        pointer(view, controller, navigation, text),
-        commands(store, controller, text, services.clipboard, services.styles, services.copiedStyle),
+        pointer(view, controller, navigation, text, layer),
+        commands(store, controller, text, services.clipboard, services.styles, services.copiedStyle, layer),
         requests(view),
-        keys(store, controller, pointer, commands, text),
-        menu(view, store, controller, commands, text, requests)
+        keys(store, controller, pointer, commands, text, layer),
+        menu(view, store, controller, commands, text, requests, layer)
     {
     }
 
     AnnotationStore &store;
+    CanvasLayerSlot layer;
     TextGeometry textGeometry;
     CanvasController controller;
     CanvasViewport viewport;

@@ -3,6 +3,7 @@
 
 #include "core/Editing/CanvasController.h"
 #include "ui/Editor/Canvas/CanvasCursors.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/CanvasNavigation.h"
 #include "ui/Editor/Canvas/TextEditor.h"
 
@@ -21,18 +22,20 @@ constexpr auto longPressTime = 600ms;
 constexpr double longPressTolerance = 8; ///< view pixels that a resting finger trembles
 } // namespace
 
-CanvasPointer::CanvasPointer(
-    QWidget &widget, CanvasController &controller, CanvasNavigation &navigation, TextEditor &text) :
+CanvasPointer::CanvasPointer(QWidget &widget, CanvasController &controller, CanvasNavigation &navigation,
+    TextEditor &text, const CanvasLayerSlot &layer) :
     m_widget(widget),
     m_controller(controller),
     m_navigation(navigation),
-    m_text(text)
+    m_text(text),
+    m_layer(layer)
 {
     m_longPress.setSingleShot(true);
     m_longPress.setInterval(longPressTime);
     connect(&m_longPress, &QTimer::timeout, this, [this] {
         m_controller.cancelGesture();
         m_navigation.endDrag();
+        m_layer->release({ .position = m_pressedAt });
         m_isDown = false; // the menu takes the release
         Q_EMIT longPressed(m_pressedAt);
     });
@@ -80,7 +83,8 @@ void CanvasPointer::press(const QMouseEvent &event)
     if (m_text.press(pressed))
         return;
     watchLongPress(pressed);
-    m_controller.press(pressed);
+    if (!m_layer->press(pressed))
+        m_controller.press(pressed);
 }
 
 void CanvasPointer::move(const QMouseEvent &event)
@@ -93,12 +97,28 @@ void CanvasPointer::move(const QMouseEvent &event)
         m_navigation.panTo(event.position());
         return;
     }
-    if (!m_text.drag(moved)) {
-        m_controller.move(moved);
-        if (m_controller.isGestureActive())
-            m_navigation.followDrag(moved);
-    }
+    drag(moved);
+    if (moved.buttons == Qt::NoButton)
+        m_layer->hover(moved.position);
     updateCursor();
+}
+
+void CanvasPointer::drag(const PointerInput &moved)
+{
+    if (m_layer->isDragging()) {
+        m_layer->drag(moved);
+        m_navigation.followDrag(moved,
+            { [&layer = m_layer] { return layer->isDragging(); },
+                [&layer = m_layer](const PointerInput &input) { layer->drag(input); } });
+        return;
+    }
+    if (m_text.drag(moved))
+        return;
+    m_controller.move(moved);
+    if (m_controller.isGestureActive())
+        m_navigation.followDrag(moved,
+            { [&controller = m_controller] { return controller.isGestureActive(); },
+                [&controller = m_controller](const PointerInput &input) { controller.move(input); } });
 }
 
 void CanvasPointer::release(const QMouseEvent &event)
@@ -110,6 +130,8 @@ void CanvasPointer::release(const QMouseEvent &event)
     const bool endsPan = event.button() == Qt::MiddleButton || event.button() == Qt::LeftButton;
     if (m_navigation.isPanning() && endsPan)
         m_navigation.endPan();
+    else if (m_layer->isDragging() && event.button() == Qt::LeftButton)
+        m_layer->release(input(event));
     else if (!m_text.release(input(event)))
         m_controller.release(input(event));
     updateCursor();
@@ -123,11 +145,16 @@ void CanvasPointer::doubleClick(const QMouseEvent &event)
         return;
     }
     m_isDown = true;
-    if (!m_text.doubleClick(clicked))
+    const bool isTaken = m_text.isActive() ? m_text.doubleClick(clicked) : m_layer->doubleClick(clicked);
+    if (!isTaken)
         m_controller.doubleClick(clicked);
 }
 
-void CanvasPointer::leave() { m_controller.leave(); }
+void CanvasPointer::leave()
+{
+    m_controller.leave();
+    m_layer->hover({});
+}
 
 void CanvasPointer::setSpaceHeld(bool held)
 {
@@ -150,6 +177,8 @@ void CanvasPointer::updateCursor()
         m_widget.setCursor(Qt::OpenHandCursor);
     else if (m_text.isOver(m_position) && !m_controller.isGestureActive())
         m_widget.setCursor(Qt::IBeamCursor);
+    else if (m_layer->isDragging() || (!m_controller.isGestureActive() && m_layer->isOver(m_position)))
+        m_widget.setCursor(m_layer->cursorAt(m_position));
     else
         m_widget.setCursor(cursorFor(m_controller.cursor(), m_widget.devicePixelRatioF()));
 }

@@ -12,17 +12,19 @@ class QWidget;
 namespace tessaly {
 
 class CanvasController;
+class CanvasLayerSlot;
 class CanvasNavigation;
 class TextEditor;
 
-/// Hands a canvas widget's pointer events to whom they mean: panning, the text being edited, or the marks. Keeps the
-/// widget's cursor.
+/// Hands a canvas widget's pointer events to whom they mean: panning, the text being edited, the layer over the
+/// capture, or the marks. Keeps the widget's cursor.
 class CanvasPointer : public QObject {
     Q_OBJECT
 
 public:
     /// Keeps the references.
-    CanvasPointer(QWidget &widget, CanvasController &controller, CanvasNavigation &navigation, TextEditor &text);
+    CanvasPointer(QWidget &widget, CanvasController &controller, CanvasNavigation &navigation, TextEditor &text,
+        const CanvasLayerSlot &layer);
 
     void press(const QMouseEvent &event);
     void move(const QMouseEvent &event);
@@ -47,11 +49,13 @@ private:
     PointerInput input(const QMouseEvent &event) const;
     void watchLongPress(const PointerInput &input);
     bool startsPan(const QMouseEvent &event) const;
+    void drag(const PointerInput &moved);
 
     QWidget &m_widget;
     CanvasController &m_controller;
     CanvasNavigation &m_navigation;
     TextEditor &m_text;
+    const CanvasLayerSlot &m_layer;
     QTimer m_longPress;
     QPointF m_pressedAt, m_position;
     bool m_isSpaceHeld = false;

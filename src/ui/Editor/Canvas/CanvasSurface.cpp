@@ -3,6 +3,7 @@
 
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Editing/CanvasController.h"
+#include "ui/Editor/Canvas/CanvasLayer.h"
 #include "ui/Editor/Canvas/CanvasViewport.h"
 #include "ui/Style/Appearance.h"
 
@@ -15,12 +16,13 @@
 
 namespace tessaly {
 
-CanvasSurface::CanvasSurface(
-    QWidget &widget, const AnnotationStore &store, const CanvasController &controller, CanvasViewport &viewport) :
+CanvasSurface::CanvasSurface(QWidget &widget, const AnnotationStore &store, const CanvasController &controller,
+    CanvasViewport &viewport, const CanvasLayerSlot &layer) :
     m_widget(widget),
     m_store(store),
     m_controller(controller),
-    m_viewport(viewport)
+    m_viewport(viewport),
+    m_layer(layer)
 {
 }
 
@@ -68,6 +70,7 @@ CanvasOverlay CanvasSurface::overlay() const
 {
     return { .adornments = m_controller.adornments(),
         .text = m_text,
+        .layer = m_layer->marks(),
         .transform = m_viewport.transform(),
         .imageSize = m_store.image().pointSize,
         .pixelScale = m_store.pixelScale() };

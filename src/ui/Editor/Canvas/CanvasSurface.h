@@ -13,6 +13,7 @@ namespace tessaly {
 
 class AnnotationStore;
 class CanvasController;
+class CanvasLayerSlot;
 class CanvasViewport;
 
 /// What a canvas widget shows: the live picture and what is painted over it.
@@ -24,8 +25,8 @@ class CanvasSurface : public QObject {
 
 public:
     /// Keeps the references.
-    CanvasSurface(
-        QWidget &widget, const AnnotationStore &store, const CanvasController &controller, CanvasViewport &viewport);
+    CanvasSurface(QWidget &widget, const AnnotationStore &store, const CanvasController &controller,
+        CanvasViewport &viewport, const CanvasLayerSlot &layer);
 
     /// Something that can be seen may have changed.
     void invalidate();
@@ -48,6 +49,7 @@ private:
     const AnnotationStore &m_store;
     const CanvasController &m_controller;
     CanvasViewport &m_viewport;
+    const CanvasLayerSlot &m_layer;
     LiveCanvas m_live;
     TextMarks m_text;
     CanvasOverlay m_shown;

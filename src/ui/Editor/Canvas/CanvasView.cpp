@@ -34,8 +34,8 @@ CanvasView::~CanvasView() = default;
 
 void CanvasView::connectParts()
 {
-    auto &[store, geometry, controller, viewport, surface, navigation, bars, text, pointer, commands, requests, keys,
-        menu]
+    auto &[store, layer, geometry, controller, viewport, surface, navigation, bars, text, pointer, commands, requests,
+        keys, menu]
         = *m_implementation;
     const auto invalidate = [&surface = surface] { surface.invalidate(); };
     connect(&store, &AnnotationStore::changed, &navigation, &CanvasNavigation::followLayout);
@@ -79,6 +79,18 @@ const QImage &CanvasView::picture()
 {
     m_implementation->surface.synchronize();
     return m_implementation->surface.picture();
+}
+
+void CanvasView::setLayer(CanvasLayer &layer)
+{
+    m_implementation->layer.set(layer);
+    connect(&layer, &CanvasLayer::changed, this, [this] {
+        m_implementation->surface.invalidate();
+        m_implementation->pointer.updateCursor();
+        Q_EMIT commandsChanged();
+    });
+    connect(&layer, &QObject::destroyed, this, [this] { m_implementation->layer.clear(); });
+    m_implementation->surface.invalidate();
 }
 
 bool CanvasView::isEditingText() const { return m_implementation->text.isActive(); }

@@ -9,6 +9,7 @@
 
 namespace tessaly {
 
+class CanvasLayer;
 class Clipboard;
 class EditorZoom;
 
@@ -35,6 +36,9 @@ public:
     const AnnotationStore &store() const;
     /// What is shown, in device pixels and without anything over it, brought up to date.
     const QImage &picture();
+
+    /// What lies over the capture from now on, until the layer is gone.
+    void setLayer(CanvasLayer &layer);
 
     bool isEditingText() const;
     /// Ends the editing of a text, keeping what was written. Call it before a save, an export or a change of tool.

@@ -2,8 +2,8 @@
 #include "ui/Editor/Canvas/TextEditor.h"
 
 #include "core/Desktop/Clipboard.h"
+#include "core/Desktop/TextOffer.h"
 #include "core/Editing/CanvasController.h"
-#include "core/Editing/TextOffer.h"
 #include "core/Rendering/TextGeometry.h"
 
 #include <QGuiApplication>

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Annotation/SavedStyles.h"
-#include "core/Frame/FrameSettings.h"
-#include "core/Preferences/Settings.h"
-#include "tests/support/FakeDesktop.h"
+#include "OptionsFixture.h"
 #include "tests/support/SampleMarks.h"
 #include "ui/Editor/Options/ColorSwatches.h"
-#include "ui/Editor/Options/OptionsBar.h"
 #include "ui/Editor/Options/WatermarkOptions.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QSlider>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessaly;
@@ -21,23 +15,8 @@ using namespace tessaly::test;
 class FrameOptionsTest : public QObject {
     Q_OBJECT
 
-    struct Fixture {
-        QTemporaryDir folder;
-        Settings settings { QString() };
-        SavedStyles styles { settings };
-        FrameSettings frameSettings { settings, folder.path() };
-        FakeAlerts alerts;
-        AnnotationStore store { RasterImage::fromPixels(QImage(400, 300, QImage::Format_RGB32)), settings };
-        OptionsBar bar { store, { settings, styles, frameSettings, alerts } };
-
+    struct Fixture : OptionsFixture {
         Fixture() { store.activate(Tool::Frame); }
-        template <class Widget = QWidget>
-        Widget &control(const char *name)
-        {
-            auto *widget = bar.findChild<Widget *>(QLatin1StringView(name));
-            Q_ASSERT(widget);
-            return *widget;
-        }
         SwatchButton *swatch(const QString &name)
         {
             const auto swatches = control("frameBackground").findChildren<SwatchButton *>();
@@ -86,7 +65,7 @@ private Q_SLOTS:
     {
         Fixture fixture;
         fixture.control<QCheckBox>("frameOn").click();
-        QSlider &padding = *fixture.control("framePadding").findChild<QSlider *>();
+        QSlider &padding = fixture.slider("framePadding");
         padding.setSliderDown(true);
         for (const int tick : { 10, 20, 25 })
             padding.setValue(tick);
@@ -122,7 +101,7 @@ private Q_SLOTS:
         const auto cells = fixture.control("watermarkPosition").findChildren<QToolButton *>();
         cells.at(int(WatermarkPosition::TopLeft))->click();
         Q_EMIT fixture.control<ColorSwatches>("watermarkColor").picked(QStringLiteral("#1C1C1E"));
-        fixture.control("watermarkOpacity").findChild<QSlider *>()->setValue(0);
+        fixture.slider("watermarkOpacity").setValue(0);
         const Watermark expected { .text = QStringLiteral("© me"),
             .colorHex = QStringLiteral("#1C1C1E"),
             .position = WatermarkPosition::TopLeft,

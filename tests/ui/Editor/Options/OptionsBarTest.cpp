@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/Editor/Options/OptionsBar.h"
-
-#include "core/Annotation/SavedStyles.h"
 #include "core/Editing/MarkCommands.h"
-#include "core/Frame/FrameSettings.h"
-#include "core/Preferences/Settings.h"
-#include "tests/support/FakeDesktop.h"
+#include "OptionsFixture.h"
 #include "tests/support/SampleMarks.h"
 #include "ui/Editor/Options/OverflowRow.h"
 #include "ui/Editor/Options/StyleMenu.h"
@@ -14,27 +9,16 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
-#include <QSlider>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessaly;
 using namespace tessaly::test;
 
-/// The bar with a capture of 400 × 300 pixels.
 class OptionsBarTest : public QObject {
     Q_OBJECT
 
-    struct Fixture {
-        QTemporaryDir folder;
-        Settings settings { QString() };
-        SavedStyles styles { settings };
-        FrameSettings frameSettings { settings, folder.path() };
-        FakeAlerts alerts;
-        AnnotationStore store { RasterImage::fromPixels(QImage(400, 300, QImage::Format_RGB32)), settings };
-        OptionsBar bar { store, { settings, styles, frameSettings, alerts } };
-
+    struct Fixture : OptionsFixture {
         Annotation &select(AnnotationKind kind)
         {
             Annotation mark(kind, { 20, 20 }, { 120, 80 });
@@ -55,14 +39,6 @@ class OptionsBarTest : public QObject {
             }
             return names;
         }
-        template <class Widget = QWidget>
-        Widget &control(const char *name)
-        {
-            auto *widget = bar.findChild<Widget *>(QLatin1StringView(name));
-            Q_ASSERT(widget);
-            return *widget;
-        }
-        QSlider &slider(const char *name) { return *control(name).findChild<QSlider *>(); }
     };
 
     static QStringList words(const char *text) { return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts); }

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Export/WidgetOpenPanels.h"
+
+#include "ui/Export/FileDialogParts.h"
+
+#include <QApplication>
+#include <QFileDialog>
+
+namespace tessaly {
+
+static QString translated(const char *text) { return QCoreApplication::translate("WidgetOpenPanels", text); }
+
+std::optional<QStringList> WidgetOpenPanels::chooseImages()
+{
+    QFileDialog dialog(QApplication::activeWindow(), translated("Open Images"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // which do not fit
+    FileDialogParts::readNamesOnly(dialog);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    const QString images
+        = translated("Images") + QStringLiteral(" (%1)").arg(FileDialogParts::imagePatterns().join(u' '));
+    dialog.setNameFilters({ images, translated("All files") + QStringLiteral(" (*)") });
+    FileDialogParts::makeRoom(dialog);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFiles()) : std::nullopt;
+}
+
+} // namespace tessaly

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Start/StartActions.h"
+
+#include "ui/Style/Appearance.h"
+#include "ui/Style/Icons.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace tessaly {
+
+namespace {
+
+// Points.
+constexpr int iconSide = 20;
+constexpr int iconGap = 8;
+constexpr int sidePadding = 18;
+constexpr int linePadding = 11;
+constexpr int buttonGap = 8;
+constexpr int groupGap = 24;
+
+} // namespace
+
+StartButton::StartButton(const StartAction &action, QWidget *parent) :
+    QPushButton(action.title, parent),
+    m_icon(Icons::icon(action.systemImage)),
+    m_isProminent(action.prominent)
+{
+    setObjectName(action.systemImage);
+    setAccessibleName(action.title);
+    setToolTip(action.toolTip);
+    setAutoDefault(true); // Return presses it, too
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QPushButton::clicked, this, action.action);
+}
+
+QSize StartButton::sizeHint() const
+{
+    const QSize texts = fontMetrics().size(Qt::TextSingleLine, text());
+    const int width = 2 * sidePadding + iconSide + iconGap + texts.width();
+    return { std::max(width, 132), std::max(texts.height(), iconSide) + 2 * linePadding };
+}
+
+void StartButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    // Not the state of a default button, which wanders with the focus.
+    option.features.setFlag(QStyleOptionButton::DefaultButton, m_isProminent);
+    style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
+    const int textWidth = fontMetrics().horizontalAdvance(text());
+    const int start = (width() - iconSide - iconGap - textWidth) / 2;
+    const QRect iconPlace(start, (height() - iconSide) / 2, iconSide, iconSide);
+    const QRect textPlace(start + iconSide + iconGap, 0, textWidth + 2, height());
+    const bool accented = m_isProminent && isEnabled();
+    const QIcon::Mode mode = !isEnabled() ? QIcon::Disabled : accented ? QIcon::Selected : QIcon::Normal;
+    m_icon.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), iconPlace), Qt::AlignCenter, mode);
+    painter.setPen(option.palette.color(accented ? QPalette::HighlightedText : QPalette::ButtonText));
+    painter.drawText(QStyle::visualRect(layoutDirection(), rect(), textPlace),
+        int(Qt::AlignVCenter | Qt::AlignLeading) | Qt::TextSingleLine, text());
+}
+
+StartActions::StartActions(std::function<void()> openFile, std::function<void()> paste, QWidget *parent) :
+    QWidget(parent),
+    m_groupsLayout(new QBoxLayout(QBoxLayout::LeftToRight, this))
+{
+    const StartAction actions[] = {
+        { tr("Open…"), QLatin1StringView("open"), true, tr("Open a picture or a document (Ctrl+O)"),
+            std::move(openFile) },
+        { tr("Paste"), QLatin1StringView("paste"), false, {}, std::move(paste) },
+    };
+    m_groupsLayout->setContentsMargins({});
+    m_groupsLayout->setSpacing(groupGap);
+    for (const StartAction &action : actions) {
+        if (action.group >= m_groups.size()) {
+            m_groups += new QBoxLayout(QBoxLayout::LeftToRight);
+            m_groups.last()->setSpacing(buttonGap);
+            m_groupsLayout->addLayout(m_groups.last());
+        }
+        m_paste = new StartButton(action);
+        m_groups.last()->addWidget(m_paste);
+    }
+    m_groupsLayout->addStretch();
+    setFocusProxy(findChild<StartButton *>());
+    setClipboardHasImage(false);
+}
+
+void StartActions::setClipboardHasImage(bool has)
+{
+    m_paste->setEnabled(has);
+    m_paste->setToolTip(
+        has ? tr("Open the picture on the clipboard (Ctrl+V)") : tr("There is no picture on the clipboard"));
+    m_paste->setAccessibleDescription(m_paste->toolTip());
+}
+
+int StartActions::rowWidth() const
+{
+    int width = groupGap * int(m_groups.size() - 1);
+    for (const QBoxLayout *group : m_groups)
+        width += group->sizeHint().width();
+    return width;
+}
+
+QSize StartActions::minimumSizeHint() const
+{
+    QSize size = QWidget::minimumSizeHint();
+    size.setWidth(0);
+    for (const QBoxLayout *group : m_groups)
+        size = size.expandedTo({ group->sizeHint().width(), 0 });
+    return size;
+}
+
+void StartActions::resizeEvent(QResizeEvent *event)
+{
+    const bool isStacked = width() < rowWidth();
+    m_groupsLayout->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_groupsLayout->setSpacing(isStacked ? buttonGap : groupGap);
+    QWidget::resizeEvent(event);
+}
+
+} // namespace tessaly

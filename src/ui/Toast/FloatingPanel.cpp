@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Toast/FloatingPanel.h"
+
+#include <cmath>
+
+namespace tessaly {
+
+FloatingPanel::FloatingPanel(Qt::WindowFlags flags, double cornerRadius) :
+    QWidget(nullptr, flags | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint),
+    m_cornerRadius(cornerRadius)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowOpacity(0);
+    constexpr int fadeMilliseconds = 180;
+    m_fade.setDuration(fadeMilliseconds);
+    m_fade.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&m_fade, &QVariantAnimation::valueChanged, this,
+        [this](const QVariant &opacity) { setWindowOpacity(opacity.toDouble()); });
+    connect(&m_fade, &QVariantAnimation::finished, this, [this] {
+        if (windowOpacity() <= 0)
+            close();
+    });
+}
+
+void FloatingPanel::fadeIn()
+{
+    show();
+    raise();
+    fadeTo(1);
+}
+
+void FloatingPanel::fadeOut() { fadeTo(0); }
+
+void FloatingPanel::fadeTo(double opacity)
+{
+    m_fade.stop();
+    m_fade.setStartValue(windowOpacity());
+    m_fade.setEndValue(opacity);
+    m_fade.start();
+}
+
+/// Without a compositor what is transparent would be black. The mask keeps every pixel that the corners touch.
+void FloatingPanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    QRegion touched(rect());
+    for (int y = 0; y < m_cornerRadius; ++y) {
+        const double rise = std::max(0.0, m_cornerRadius - y - 1);
+        const int inset = static_cast<int>(m_cornerRadius - std::sqrt(m_cornerRadius * m_cornerRadius - rise * rise));
+        for (const int row : { y, height() - 1 - y })
+            touched -= QRegion(0, row, inset, 1) + QRegion(width() - inset, row, inset, 1);
+    }
+    setMask(touched);
+}
+
+} // namespace tessaly

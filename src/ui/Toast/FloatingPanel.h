@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+namespace tessaly {
+
+/// A small window with rounded corners over everything else. It comes and goes softly, never takes the focus by
+/// itself, and deletes itself when it is closed.
+class FloatingPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `flags` beyond those of any such window; corners in logical pixels.
+    FloatingPanel(Qt::WindowFlags flags, double cornerRadius);
+
+    void fadeIn();
+    /// Closes it at the end.
+    void fadeOut();
+
+protected:
+    double cornerRadius() const { return m_cornerRadius; }
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void fadeTo(double opacity);
+
+    double m_cornerRadius;
+    QVariantAnimation m_fade;
+};
+
+} // namespace tessaly
