@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QStringList>
-#include <QUuid>
-
 #include <memory>
 
 namespace tessaly {
 
+struct DesktopArguments;
 class EarlyReading;
 
 /// The desktop program: makes exactly one of every service and hands them out.
@@ -17,9 +15,10 @@ public:
     TessalyApp();
     ~TessalyApp();
 
-    /// Opens what the arguments name, the first of them as `first` has read it, and runs until the last window is
-    /// closed. Without arguments it shows the start window. The process's exit status: 1 when none could be opened.
-    int run(const QStringList &paths, const QList<QUuid> &historyEntries, EarlyReading &first);
+    /// Does what the arguments ask for, and runs until nothing of it is left: windows, thumbnails, pinned screenshots,
+    /// or what others may paste. The first file is as `first` has read it. Without anything to open it shows the start
+    /// window. The process's exit status: 1 when nothing could be opened or captured.
+    int run(const DesktopArguments &arguments, EarlyReading &first);
 
 private:
     class Services;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AutomationClient.h"
 #include "app/CommandLine/CommandLine.h"
 #include "app/StandardStreams.h"
 #include "platform/Choice/PlatformChoice.h"
@@ -18,5 +19,7 @@ int main(int argc, char **argv)
                 [] {
                     return std::make_unique<WorkerRecognizer>(
                         WorkerRecognizer::Options { WorkerRecognizer::systemLanguages() });
-                } });
+                },
+            .windowSource = PlatformChoice::windowSource,
+            .askProgram = AutomationClient::capture });
 }

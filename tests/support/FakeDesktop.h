@@ -77,10 +77,12 @@ public:
     std::optional<QString> document;
     QList<ImageRequest> imageRequests;
     QStringList documentNames;
+    std::function<void()> meanwhile = [] {}; ///< what happens while the panel for images is open
 
     std::optional<ImageChoice> chooseImage(const ImageRequest &request) override
     {
         imageRequests += request;
+        meanwhile();
         return image;
     }
     std::optional<QString> chooseDocument(const QString &fileName, const QString &) override
@@ -93,8 +95,15 @@ public:
 class FakeOpenPanels final : public OpenPanels {
 public:
     std::optional<QStringList> images; ///< the next answer
+    std::optional<QString> folder; ///< the same
+    QStringList asked; ///< where each question for a folder began
 
     std::optional<QStringList> chooseImages() override { return images; }
+    std::optional<QString> chooseFolder(const QString &, const QString &, const QString &begin) override
+    {
+        asked += begin;
+        return folder;
+    }
 };
 
 /// A clock that stands until it is moved.

@@ -11,14 +11,15 @@ void endWithThisProcess(QProcess &process)
     process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
 }
 
-VirtualScreen::VirtualScreen(const QString &geometry)
+VirtualScreen::VirtualScreen(const QString &geometry, const QStringList &arguments)
 {
     endWithThisProcess(m_server);
     // The server picks a free number and prints it when it is ready for clients.
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.start(QStringLiteral("Xvfb"),
-        { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"), geometry,
-            QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset") });
+        QStringList { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+            geometry, QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset") }
+            + arguments);
     while (!m_server.canReadLine() && m_server.waitForReadyRead(20'000)) { }
     if (m_server.canReadLine())
         m_displayName = u':' + QString::fromLatin1(m_server.readLine().trimmed());

@@ -12,8 +12,9 @@ void endWithThisProcess(QProcess &process);
 /// An X server without a monitor, alive as long as the object.
 class VirtualScreen {
 public:
-    /// `geometry` as Xvfb takes it, "640x480x24". `displayName()` is empty when the server did not start.
-    explicit VirtualScreen(const QString &geometry);
+    /// `geometry` and more `arguments` as Xvfb takes them, "640x480x24". `displayName()` is empty when the server did
+    /// not start.
+    explicit VirtualScreen(const QString &geometry, const QStringList &arguments = {});
     ~VirtualScreen();
 
     QString displayName() const { return m_displayName; }

@@ -1,35 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine/CaptureOptions.h"
 #include "app/CommandLine/CaptureRecording.h"
 #include "app/CommandLine/Command.h"
 #include "app/CommandLine/CommandContext.h"
 #include "app/CommandLine/CommandOptions.h"
+#include "app/CommandLine/DesktopProgram.h"
+#include "app/CommandLine/InterruptionGuard.h"
 #include "app/CommandLine/OutputTargets.h"
 #include "app/CommandLine/PictureEncoding.h"
+#include "app/CommandLine/ScreenTaking.h"
 #include "app/CommandLine/Text.h"
+#include "app/CommandLine/TextReading.h"
+#include "core/Base/Clock.h"
+#include "core/Base/SafeFile.h"
+#include "core/Capture/ScreenshotNames.h"
 #include "core/History/HistoryPruning.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QThread>
 
 namespace tessaly {
 
 namespace {
-
-struct CaptureOptions {
-    QString output;
-    std::optional<qint64> display;
-};
-
-Result<RasterImage> captureDisplay(ScreenSource &source, qint64 number)
-{
-    const auto displays = source.displays();
-    if (!displays)
-        return displays.failure();
-    if (number > displays->size())
-        return Failure { Text::tr("There is no display %1; the last one is %2.")
-                             .arg(QString::number(number), QString::number(displays->size())) };
-    const Display &display = displays->at(number - 1);
-    return source.capture(display.pixelRect, display.scale);
-}
 
 /// Keeps the capture in the history. The user has what was asked for whatever comes of it.
 void record(CaptureRecording &recording, CommandContext &context)
@@ -39,59 +32,157 @@ void record(CaptureRecording &recording, CommandContext &context)
         context.console().message(recorded.failure().message);
 }
 
-Outcome writeCapture(const RasterImage &picture, const QString &path, OutputTargets &targets, CommandContext &context)
+using Write = std::function<Outcome(const QByteArray &bytes)>;
+
+Outcome writeCapture(const RasterImage &picture, ExportFormat format, const Write &write, CommandContext &context)
 {
-    const auto format = formatOfExtension(QFileInfo(path).suffix()).value_or(ExportFormat::Png);
     const auto bytes = encodePicture(picture, format, std::nullopt, context);
     if (!bytes)
         return bytes.failure();
     std::optional<CaptureRecording> recording;
     if (context.settings().value(SettingKeys::historyEnabled))
         recording.emplace(picture, format == ExportFormat::Png ? std::optional(*bytes) : std::nullopt);
-    const Outcome written = targets.write(path, *bytes);
+    const Outcome written = write(*bytes);
     if (written && recording)
         record(*recording, context);
     return written;
 }
 
-Outcome captureFullScreen(const CaptureOptions &options, CommandContext &context)
+/// Of processes that save in the same second each gets a name of its own.
+Result<QString> writeNew(const QString &folder, ExportFormat format, const QByteArray &bytes)
 {
-    auto targets = OutputTargets::create(options.output, {});
+    const InterruptionGuard guard;
+    const QDateTime now = SystemClock().now();
+    for (;;) {
+        const QString path = ScreenshotNames::freePath(folder, now, extension(format));
+        const auto created = SafeFile::create(path, bytes);
+        if (!created)
+            return created.failure();
+        if (*created == SafeFile::Created::Yes)
+            return path;
+    }
+}
+
+/// The picture, after the delay that was asked for.
+Result<RasterImage> taken(const CaptureOptions &options, CommandContext &context)
+{
+    QThread::sleep(static_cast<unsigned long>(options.delay.value_or(0)));
+    auto taking = ScreenTaking::create(context);
+    return taking ? taking->take(options) : taking.failure();
+}
+
+ExitStatus captureText(const CaptureOptions &options, CommandContext &context)
+{
+    auto picture = taken(options, context);
+    if (!picture)
+        return context.report(picture.failure());
+    auto reading = TextReading::create(context);
+    if (!reading)
+        return context.report(reading.failure());
+    const auto content = reading->read(std::move(*picture), TextRecognizer::Codes::Skip);
+    if (!content)
+        return context.report(content.failure());
+    return context.print(content->lines.isEmpty() ? QByteArray() : content->text().toUtf8() + '\n');
+}
+
+Outcome captureFile(const CaptureOptions &options, const QString &output, CommandContext &context)
+{
+    auto targets = OutputTargets::create(output, {});
     if (!targets)
         return targets.failure();
     const auto path = targets->singlePath();
     if (!path)
         return path.failure();
-    const auto source = context.environment().screenSource();
-    if (!source)
-        return source.failure();
-    const auto picture = captureDisplay(**source, options.display.value_or(1));
-    return picture ? writeCapture(*picture, *path, *targets, context) : Outcome(picture.failure());
+    const auto picture = taken(options, context);
+    if (!picture)
+        return picture.failure();
+    const auto format = formatOfExtension(QFileInfo(*path).suffix()).value_or(ExportFormat::Png);
+    return writeCapture(
+        *picture, format, [&](const QByteArray &bytes) { return targets->write(*path, bytes); }, context);
 }
 
-ExitStatus runFullScreen(const CaptureOptions &options, CommandContext &context)
+/// To a new file in the save folder, in the format that the user last chose; its path is printed.
+ExitStatus captureNewFile(const CaptureOptions &options, CommandContext &context)
 {
-    if (options.output == u"-" && Console::printsToTerminal()) {
-        context.console().message(Text::tr("Standard output is a terminal, which cannot show a picture."));
+    const QString folder = context.settings().value(SettingKeys::defaultSaveFolder);
+    if (folder.isEmpty() || !QFileInfo(folder).isDir())
+        return context.report(Failure { Text::tr("No save folder is chosen, or it is gone; name the file with -o.") });
+    const auto picture = taken(options, context);
+    if (!picture)
+        return context.report(picture.failure());
+    const ExportFormat format = storedFormat(context.settings());
+    QString path;
+    const auto write = [&](const QByteArray &bytes) -> Outcome {
+        const auto written = writeNew(folder, format, bytes);
+        if (!written)
+            return written.failure();
+        path = *written;
+        return Done {};
+    };
+    const ExitStatus status = context.report(writeCapture(*picture, format, write, context));
+    return status == ExitStatus::Done ? context.print(QFile::encodeName(path) + '\n') : status;
+}
+
+ExitStatus tell(const CaptureOptions &options, const CaptureOutcome &outcome, CommandContext &context)
+{
+    if (const auto *failure = std::get_if<Failure>(&outcome))
+        return context.report(*failure);
+    if (std::holds_alternative<CaptureCancelled>(outcome))
+        return context.report(Failure { Text::tr("The capture was cancelled.") });
+    const QString path = std::get<Captured>(outcome).path;
+    if (options.sink() != CaptureSink::File || options.output || path.isEmpty())
+        return ExitStatus::Done;
+    return context.print(QFile::encodeName(path) + '\n');
+}
+
+/// Asks the Tessaly that runs, or becomes one.
+ExitStatus captureByProgram(const CaptureOptions &options, CommandContext &context)
+{
+    if (options.output) { // better told before the user has selected something
+        auto targets = OutputTargets::create(*options.output, {});
+        const auto path = targets ? targets->singlePath() : Result<QString>(targets.failure());
+        if (!path)
+            return context.report(path.failure());
+    }
+    const QString subject = rawValue(options.subject);
+    const QVariantMap request = options.forProgram();
+    context.requireEventLoop();
+    const auto outcome = context.environment().askProgram(subject, request);
+    return outcome ? tell(options, *outcome, context)
+                   : DesktopProgram::becomeForCapture(subject, request, context.console());
+}
+
+ExitStatus runCapture(const CaptureOptions &options, CommandContext &context)
+{
+    if (const auto problem = options.usageProblem()) {
+        context.console().message(*problem);
         return ExitStatus::WrongUsage;
     }
-    return context.report(captureFullScreen(options, context));
+    if (!options.isSettled() || !options.staysHere())
+        return captureByProgram(options, context);
+    if (options.sink() == CaptureSink::Text)
+        return captureText(options, context);
+    return options.output ? context.report(captureFile(options, *options.output, context))
+                          : captureNewFile(options, context);
 }
 
-CommandBody setUpFullScreen(CommandOptions &options)
+template <CaptureSubject Subject>
+CommandBody setUpSubject(CommandOptions &options)
 {
     auto chosen = std::make_shared<CaptureOptions>();
-    options.required(chosen->output, "-o,--output", "OUT",
-        "Picture to write; its extension says the format, and without one it is PNG; - is PNG on standard output");
-    options.wholeNumber(chosen->display, "--display", { 1, 1000 },
-        "Which display to take, counted from 1, the primary one; by default 1");
+    chosen->subject = Subject;
+    chosen->declare(options);
     options.closing("The capture is also kept in the history (tessaly history --help), unless that is\n"
-                    "switched off.");
-    return [chosen](CommandContext &context) { return runFullScreen(*chosen, context); };
+                    "switched off or only its text is asked for.");
+    return [chosen](CommandContext &context) { return runCapture(*chosen, context); };
 }
 
 constexpr Command captureModes[] = {
-    { "full-screen", "The whole of one display, at its own pixels", setUpFullScreen },
+    { "region", "An area that you select, or one that you name", setUpSubject<CaptureSubject::Region> },
+    { "window", "A window that you pick, or one that you name", setUpSubject<CaptureSubject::Window> },
+    { "front-window", "The window in front of all others", setUpSubject<CaptureSubject::FrontWindow> },
+    { "full-screen", "The whole of one display, at its own pixels", setUpSubject<CaptureSubject::FullScreen> },
+    { "last-region", "The area that was selected last", setUpSubject<CaptureSubject::LastRegion> },
 };
 
 } // namespace

@@ -28,6 +28,8 @@ CommandBody setUpExport(CommandOptions &options);
 CommandBody setUpDocument(CommandOptions &options);
 CommandBody setUpInfo(CommandOptions &options);
 CommandBody setUpCapture(CommandOptions &options);
+CommandBody setUpDisplays(CommandOptions &options);
+CommandBody setUpWindows(CommandOptions &options);
 CommandBody setUpCollage(CommandOptions &options);
 CommandBody setUpText(CommandOptions &options);
 CommandBody setUpHistory(CommandOptions &options);

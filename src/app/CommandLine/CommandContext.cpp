@@ -40,4 +40,10 @@ void CommandContext::requireApplication()
     m_application = std::make_unique<QGuiApplication>(m_argumentCount, m_arguments);
 }
 
+void CommandContext::requireEventLoop()
+{
+    if (!QCoreApplication::instance())
+        m_application = std::make_unique<QCoreApplication>(m_argumentCount, m_arguments);
+}
+
 } // namespace tessaly

@@ -6,7 +6,7 @@
 #include "app/CommandLine/Console.h"
 #include "core/Preferences/Settings.h"
 
-class QGuiApplication;
+class QCoreApplication;
 
 namespace tessaly {
 
@@ -31,6 +31,9 @@ public:
     /// Makes the application object that fonts and waiting for answers need, without a display.
     void requireApplication();
 
+    /// Makes the smaller one that waiting alone needs. Neither where there is one already.
+    void requireEventLoop();
+
 private:
     const CommandEnvironment &m_environment;
     Console m_console;
@@ -38,7 +41,7 @@ private:
     char m_name[8] = "tessaly"; // the application object keeps references to its arguments
     char *m_arguments[2] = { m_name, nullptr };
     int m_argumentCount = 1;
-    std::unique_ptr<QGuiApplication> m_application;
+    std::unique_ptr<QCoreApplication> m_application;
 };
 
 } // namespace tessaly

@@ -18,6 +18,8 @@ constexpr Command commands[] = {
     { "document", "Make an editable document of a picture", setUpDocument },
     { "info", "Say what is in a picture or document", setUpInfo },
     { "capture", "Take a picture of the screen", setUpCapture },
+    { "displays", "List the displays", setUpDisplays },
+    { "windows", "List the windows that can be captured", setUpWindows },
     { "text", "Read the text and the codes in pictures", setUpText },
     { "history", "Find, open and remove the captures that were kept", setUpHistory },
     { "collage", "Join pictures side by side or stacked", setUpCollage },

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Capture/ScreenSource.h"
+#include "core/Capture/CaptureRequest.h"
+#include "core/Screen/WindowSource.h"
 #include "core/Text/TextRecognizer.h"
+
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -14,6 +17,11 @@ struct CommandEnvironment {
     std::function<Result<std::unique_ptr<ScreenSource>>()> screenSource;
     /// Called when there is an application object.
     std::function<std::unique_ptr<TextRecognizer>()> textRecognizer;
+    /// The same. Never null.
+    std::function<std::unique_ptr<WindowSource>(ScreenSource &)> windowSource = {};
+    /// The same. Asks the Tessaly that runs, with names and options as on the bus, and waits for the end of the
+    /// capture; empty where none runs.
+    std::function<std::optional<CaptureOutcome>(const QString &subject, const QVariantMap &options)> askProgram = {};
 };
 
 /// Runs one command. The exit status: 0 done, 1 the work failed, 2 wrong usage.

@@ -50,4 +50,16 @@ ExitStatus become(char **argv, Console &console)
     return ExitStatus::Failed;
 }
 
+ExitStatus becomeForCapture(const QString &subject, const QVariantMap &options, Console &console)
+{
+    QByteArrayList texts { "tessaly", "--capture", subject.toLocal8Bit() };
+    for (const auto &[name, value] : options.asKeyValueRange())
+        texts += QString(name + u'=' + value.toString()).toLocal8Bit();
+    QList<char *> arguments;
+    for (QByteArray &text : texts)
+        arguments += text.data();
+    arguments += nullptr;
+    return become(arguments.data(), console);
+}
+
 } // namespace tessaly::DesktopProgram

@@ -8,6 +8,7 @@ namespace tessaly {
 /// Why an operation could not be done.
 struct Failure {
     QString message; ///< one sentence for the user, naming what it is about
+    bool cancelled = false; ///< the user's own wish: nobody needs to be told
 
     bool operator==(const Failure &) const = default;
 };

@@ -95,6 +95,26 @@ int renameOver(const QString &from, const QString &to)
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0 : errno;
 }
 
+/// Fails with EEXIST when something stands at `to`.
+int renameToFree(const QString &from, const QString &to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // A file system that cannot do both in one step: an empty file keeps the name until it is renamed over.
+    const int place = ::open(target.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (place < 0)
+        return errno;
+    ::close(place);
+    const int error = renameOver(from, to);
+    if (error != 0)
+        ::unlink(target.constData());
+    return error;
+}
+
 /// Makes the folder of an entry, `parent` in `folder`, if it is not there yet.
 int makeParent(const QString &folder, const QString &parent, Access access)
 {
@@ -195,6 +215,23 @@ Outcome replace(const QString &path, const QByteArray &bytes, Access access)
     if (const int error = replaceFile(path, bytes, std::nullopt, access))
         return notWritten(path, error);
     return Done {};
+}
+
+Result<Created> create(const QString &path, const QByteArray &bytes, Access access)
+{
+    const QString temporary = temporaryBeside(path);
+    int error = writeFlushed(temporary, bytes, std::nullopt, access);
+    if (error == 0)
+        error = renameToFree(temporary, path);
+    if (error != 0)
+        QFile::remove(temporary);
+    else
+        error = flushFolder(QFileInfo(path).path());
+    if (error == EEXIST)
+        return Created::NameTaken;
+    if (error != 0)
+        return notWritten(path, error);
+    return Created::Yes;
 }
 
 Outcome makeFolder(const QString &path, Access access)

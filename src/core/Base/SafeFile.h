@@ -27,6 +27,11 @@ Outcome write(const QString &path, const QByteArray &bytes, Access access = Acce
 /// are always those of `access`.
 Outcome replace(const QString &path, const QByteArray &bytes, Access access);
 
+/// Whether create() made the file, or left what has its name already.
+enum class Created { Yes, NameTaken };
+/// Writes a file that is new: whatever stands at `path`, also when another process puts it there meanwhile, stays.
+Result<Created> create(const QString &path, const QByteArray &bytes, Access access = Access::Usual);
+
 /// Makes a folder, with those above it, that is on the disk afterwards; one that is there, or a link to one, stays as
 /// it is. `access` is for the last one.
 Outcome makeFolder(const QString &path, Access access = Access::Usual);

@@ -15,6 +15,11 @@ public:
     /// Waits for the user to choose one or more picture files; their paths in the order in which they were chosen, or
     /// nothing when the user cancelled.
     virtual std::optional<QStringList> chooseImages() = 0;
+
+    /// Waits for the user to choose one folder that exists; its path, or nothing when the user cancelled. `message`
+    /// says what it is for, `prompt` stands on the button; opens in `folder`.
+    virtual std::optional<QString> chooseFolder(const QString &message, const QString &prompt, const QString &folder)
+        = 0;
 };
 
 } // namespace tessaly

@@ -48,29 +48,35 @@ void ExportService::copy(const RasterImage &image, bool countsAsExport)
 bool ExportService::save(
     const RasterImage &image, ExportFormat format, const std::function<void(const QString &)> &writeDocument)
 {
+    return saveAs(image, format, writeDocument).has_value();
+}
+
+std::optional<QString> ExportService::saveAs(
+    const RasterImage &image, ExportFormat format, const std::function<void(const QString &)> &writeDocument)
+{
     const auto choice = m_surroundings.panels.chooseImage({ .format = format,
         .baseName = tr("Screenshot"),
         .folder = m_surroundings.settings.value(SettingKeys::defaultSaveFolder),
         .offersDocument = static_cast<bool>(writeDocument) });
     if (!choice)
-        return false;
+        return std::nullopt;
     rememberChoices(*choice);
     const auto bytes = data(image, choice->format, choice->quality);
     if (!bytes)
-        return false;
+        return std::nullopt;
     Outcome written = Failure { tr("There is not enough memory for it.") };
     m_surroundings.work.complete(tr("Saving the image…"),
         [&written, &choice, &bytes](const Cancellation &) { written = SafeFile::write(choice->path, *bytes); });
     if (!written) {
         m_surroundings.alerts.warn(tr("Couldn't save the image"), written.failure().message);
-        return false;
+        return std::nullopt;
     }
     if (writeDocument && choice->alsoDocument)
         writeDocument(choice->path);
     if (m_surroundings.settings.value(SettingKeys::autoCopyAfterSave))
         copy(image, false);
     exported();
-    return true;
+    return choice->path;
 }
 
 void ExportService::rememberChoices(const SavePanels::ImageChoice &choice)

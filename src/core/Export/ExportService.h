@@ -42,6 +42,9 @@ public:
     /// beside it; without one the panel does not offer that. False when nothing was written.
     bool save(const RasterImage &image, ExportFormat format,
         const std::function<void(const QString &imagePath)> &writeDocument = {});
+    /// The same; the path of what was written.
+    std::optional<QString> saveAs(const RasterImage &image, ExportFormat format,
+        const std::function<void(const QString &imagePath)> &writeDocument = {});
 
     /// Whether share() can do anything on this desktop.
     bool canShare() const;

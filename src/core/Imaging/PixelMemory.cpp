@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/PixelMemory.h"
 
+#include "core/Base/Parallel.h"
+
 #include <sys/mman.h>
 
 #ifdef __GLIBC__
@@ -37,6 +39,21 @@ QImage allocate(QSize pixelSize, QImage::Format format)
         return {};
     uchar *memory = bytes.release();
     return QImage(memory, pixelSize.width(), pixelSize.height(), qsizetype(bytesPerLine), format, std::free, memory);
+}
+
+void populate(uchar *memory, std::size_t count, [[maybe_unused]] int threads)
+{
+#ifdef MADV_POPULATE_WRITE
+    constexpr std::uintptr_t page = 4096;
+    const auto begin = reinterpret_cast<std::uintptr_t>(memory) / page * page;
+    const std::uintptr_t end = reinterpret_cast<std::uintptr_t>(memory) + count;
+    const auto pieces = static_cast<int>((end - begin + hugePageBytes - 1) / hugePageBytes);
+    Parallel::forEach(pieces, threads, [=](int piece) {
+        const std::uintptr_t from = begin + static_cast<std::uintptr_t>(piece) * hugePageBytes;
+        ::madvise(
+            reinterpret_cast<void *>(from), std::min<std::uintptr_t>(hugePageBytes, end - from), MADV_POPULATE_WRITE);
+    });
+#endif
 }
 
 void shareHeap()

@@ -20,6 +20,10 @@ Bytes allocateBytes(std::size_t count);
 /// A picture of undefined content in such memory. Null when the size is empty or the memory is refused.
 QImage allocate(QSize pixelSize, QImage::Format format);
 
+/// Faults in the pages of memory that is about to be written, in large pieces: the first writing would lose more time.
+/// The content stays. Nothing is lost where the system cannot do it.
+void populate(uchar *memory, std::size_t count, int threads);
+
 /// Has all threads share one heap, from here on: what is free at the end of a thread's own heap would not go back to
 /// the system. For programs whose threads seldom ask for memory.
 void shareHeap();

@@ -58,6 +58,31 @@ inline constexpr SettingKey<bool> historyEnabled { "historyEnabled", true };
 /// Whole days; below 1 captures are kept until they are deleted.
 inline constexpr SettingKey<double> historyRetentionDays { "historyRetentionDays", 30.0 };
 
+/// Of a capture. The delay is whole seconds; below 1 there is none.
+inline constexpr SettingKey<double> captureDelay { "captureDelay", 0.0 };
+inline constexpr SettingKey<bool> captureSound { "captureSound", false };
+inline constexpr SettingKey<bool> freezeScreenWhileSelecting { "freezeScreenWhileSelecting", false };
+inline constexpr SettingKey<bool> showMagnifierWhileSelecting { "showMagnifierWhileSelecting", true };
+inline constexpr SettingKey<bool> adjustRegionBeforeCapture { "adjustRegionBeforeCapture", false };
+inline constexpr SettingKey<bool> hideDesktopIconsWhileCapturing { "hideDesktopIconsWhileCapturing", false };
+inline constexpr SettingKey<bool> windowCaptureShadow { "windowCaptureShadow", true };
+inline constexpr SettingKey<bool> windowCaptureTransparentBackground { "windowCaptureTransparentBackground", true };
+/// An array of five numbers: the display's id, then x, y, width and height in its points.
+inline constexpr SettingKey<Bytes> lastRegionRect { "lastRegionRect", {} };
+inline constexpr SettingKey<double> newsletterCaptureCount { "newsletterCaptureCount", 0.0 };
+
+/// What happens to a capture, in any combination.
+inline constexpr SettingKey<bool> afterCaptureShow { "afterCaptureShow", true };
+inline constexpr SettingKey<bool> afterCaptureCopy { "afterCaptureCopy", false };
+inline constexpr SettingKey<bool> afterCaptureSaveToDisk { "afterCaptureSaveToDisk", false };
+inline constexpr SettingKey<bool> afterCaptureQuickAccess { "afterCaptureQuickAccess", false };
+/// "bottomRight" or "bottomLeft"; anything else counts as the former.
+inline constexpr SettingKey<const char *> quickAccessCorner { "quickAccessCorner", "bottomRight" };
+
+inline constexpr SettingKey<bool> watchSystemScreenshots { "watchSystemScreenshots", false };
+/// The path of the folder that is watched.
+inline constexpr SettingKey<const char *> systemScreenshotsFolder { "systemScreenshotsFolderBookmark", "" };
+
 /// Where the start window was when it was last closed.
 inline constexpr SettingKey<Bytes> startWindowFrame { "TessalyStartWindow", {} };
 inline constexpr SettingKey<const char *> appearance { "appearance", "system" };

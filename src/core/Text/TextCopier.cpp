@@ -44,9 +44,11 @@ void TextCopier::copyText(const RasterImage &image)
 {
     m_task.reset();
     m_wait.start();
+    m_reading = true;
     TextRecognizer::Request request { .image = image };
     m_task = m_recognizer.recognize(std::move(request), [this](const Result<RecognizedContent> &result) {
         m_wait.stop();
+        m_reading = false;
         // A recognition that failed has found nothing.
         announce(result ? deliver(*result) : Nothing {});
     });

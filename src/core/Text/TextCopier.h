@@ -43,9 +43,13 @@ public:
         std::chrono::milliseconds patience = usualPatience);
     ~TextCopier() override;
 
+    /// Whether pictures can be read on this computer.
+    bool isSupported() const { return m_recognizer.isSupported(); }
+
     /// Recognises, delivers and announces. A copy that is under way is cancelled. "Recognizing text…" is shown when it
     /// takes longer than 0.6 s.
     void copyText(const RasterImage &image);
+    bool isReading() const { return m_reading; }
 
     /// Puts it on the clipboard; leaves that as it is when there is nothing.
     Outcome deliver(const RecognizedContent &content);
@@ -59,6 +63,7 @@ private:
     Links &m_links;
     std::unique_ptr<RecognitionTask> m_task;
     QTimer m_wait;
+    bool m_reading = false;
 };
 
 } // namespace tessaly

@@ -108,6 +108,12 @@ private:
 
 } // namespace
 
+bool isPossible()
+{
+    auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 && Request(x11->connection()).managerIsThere();
+}
+
 void run(const QStringList &types)
 {
     auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();

@@ -29,14 +29,33 @@ bool hasFileManager()
     return bus->isServiceRegistered(name) || bus->activatableServiceNames().value().contains(name);
 }
 
+/// What this program tells its own Qt: another Qt program's windows would stay unseen or be drawn slowly with it.
+constexpr const char *ownVariables[]
+    = { "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION" };
+
+bool openOutside(const QUrl &url)
+{
+    QList<QByteArray> values;
+    for (const char *variable : ownVariables) {
+        values += qgetenv(variable);
+        qunsetenv(variable);
+    }
+    const bool opened = QDesktopServices::openUrl(url);
+    for (qsizetype index = 0; index < values.size(); ++index) {
+        if (!values[index].isEmpty())
+            qputenv(ownVariables[index], values[index]);
+    }
+    return opened;
+}
+
 bool openFolderOf(const QFileInfo &item)
 {
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(item.isDir() ? item.absoluteFilePath() : item.absolutePath()));
+    return openOutside(QUrl::fromLocalFile(item.isDir() ? item.absoluteFilePath() : item.absolutePath()));
 }
 
 } // namespace
 
-bool DesktopLinks::open(const QUrl &url) { return QDesktopServices::openUrl(url); }
+bool DesktopLinks::open(const QUrl &url) { return openOutside(url); }
 
 bool DesktopLinks::reveal(const QString &path)
 {

@@ -27,6 +27,19 @@ void copyOpaque(const uchar *from, uchar *to, size_t pixelCount)
         target[index] = source[index] | 0xff000000u;
 }
 
+void limitToAlpha(uchar *pixels, size_t pixelCount)
+{
+    auto *values = reinterpret_cast<uint32_t *>(pixels);
+    for (size_t index = 0; index < pixelCount; ++index) {
+        const uint32_t pixel = values[index];
+        const uint32_t alpha = pixel >> 24;
+        const uint32_t red = std::min(pixel >> 16 & 0xff, alpha);
+        const uint32_t green = std::min(pixel >> 8 & 0xff, alpha);
+        const uint32_t blue = std::min(pixel & 0xff, alpha);
+        values[index] = alpha << 24 | red << 16 | green << 8 | blue;
+    }
+}
+
 /// The part of `pixel` under `mask`, stretched to 0 … 255.
 static int component(uint32_t pixel, uint32_t mask)
 {

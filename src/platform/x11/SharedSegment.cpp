@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/SharedSegment.h"
 
+#include "core/Base/Parallel.h"
+#include "core/Imaging/PixelMemory.h"
+
 #include <sys/ipc.h>
 #include <sys/shm.h>
 
@@ -23,6 +26,7 @@ std::shared_ptr<SharedSegment> SharedSegment::create(std::shared_ptr<X11Connecti
         ::shmdt(memory);
         return nullptr;
     }
+    PixelMemory::populate(static_cast<uchar *>(memory), bytes, Parallel::defaultThreadCount());
     return std::shared_ptr<SharedSegment>(
         new SharedSegment(std::move(connection), static_cast<uchar *>(memory), bytes, id));
 }
@@ -33,6 +37,25 @@ SharedSegment::SharedSegment(std::shared_ptr<X11Connection> connection, uchar *m
     m_bytes(bytes),
     m_id(id)
 {
+}
+
+void SharedSegment::touch()
+{
+    if (std::exchange(m_touched, true))
+        return;
+    // The server touches a page when it writes to it: the screen's pixels, as often as they fit.
+    const QRect screen = m_connection->rootPixelRect();
+    const size_t bytesPerRow = static_cast<size_t>(screen.width()) * 4;
+    const size_t rowsAtOnce = std::min(bytesPerRow ? m_bytes / bytesPerRow : 0, static_cast<size_t>(screen.height()));
+    if (rowsAtOnce == 0)
+        return;
+    for (size_t row = 0; (row + rowsAtOnce) * bytesPerRow <= m_bytes; row += rowsAtOnce) {
+        const auto request = xcb_shm_get_image(m_connection->xcb(), m_connection->root(), 0, 0,
+            static_cast<uint16_t>(screen.width()), static_cast<uint16_t>(rowsAtOnce), ~0u, XCB_IMAGE_FORMAT_Z_PIXMAP,
+            m_id, static_cast<uint32_t>(row * bytesPerRow));
+        const XcbReply<xcb_shm_get_image_reply_t> written(
+            xcb_shm_get_image_reply(m_connection->xcb(), request, nullptr));
+    }
 }
 
 SharedSegment::~SharedSegment()

@@ -18,6 +18,9 @@ public:
     SharedSegment(const SharedSegment &) = delete;
     SharedSegment &operator=(const SharedSegment &) = delete;
 
+    /// Faults the pages in that the server has not used yet; here they are when it is made.
+    void touch();
+
     uchar *memory() const { return m_memory; }
     size_t bytes() const { return m_bytes; }
     xcb_shm_seg_t id() const { return m_id; }
@@ -29,6 +32,7 @@ private:
     uchar *m_memory;
     size_t m_bytes;
     xcb_shm_seg_t m_id;
+    bool m_touched = false;
 };
 
 } // namespace tessaly

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 #include <bit>
-#include <xcb/shm.h>
+#include <cmath>
 
 namespace tessaly {
 
@@ -15,8 +15,8 @@ Result<std::unique_ptr<X11Connection>> X11Connection::open(const QString &displa
         return Failure { QCoreApplication::translate(
             "X11Connection", "There is no screen to capture: DISPLAY names no X server.") };
     }
-    int screenNumber = 0;
-    xcb_connection_t *xcb = xcb_connect(name.constData(), &screenNumber);
+    int defaultScreen = 0;
+    xcb_connection_t *xcb = xcb_connect(name.constData(), &defaultScreen);
     if (xcb_connection_has_error(xcb) != 0) {
         xcb_disconnect(xcb);
         return Failure {
@@ -24,9 +24,16 @@ Result<std::unique_ptr<X11Connection>> X11Connection::open(const QString &displa
         };
     }
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(xcb));
-    for (; screenNumber > 0 && screens.rem > 1; --screenNumber)
+    for (int number = 0; number < defaultScreen && screens.rem > 1; ++number)
         xcb_screen_next(&screens);
-    return std::unique_ptr<X11Connection>(new X11Connection(xcb, screens.data));
+    return std::unique_ptr<X11Connection>(new X11Connection(xcb, screens.data, defaultScreen));
+}
+
+X11Connection::X11Connection(xcb_connection_t *xcb, xcb_screen_t *screen, int screenNumber) :
+    m_xcb(xcb),
+    m_screen(screen),
+    m_screenNumber(screenNumber)
+{
 }
 
 X11Connection::~X11Connection() { xcb_disconnect(m_xcb); }
@@ -45,48 +52,69 @@ bool X11Connection::PixelLayout::isRgb32() const
 
 X11Connection::PixelLayout X11Connection::rootPixelLayout() const
 {
+    return pixelLayout(m_screen->root_depth, m_screen->root_visual);
+}
+
+X11Connection::PixelLayout X11Connection::pixelLayout(uint8_t depth, xcb_visualid_t visual) const
+{
     PixelLayout layout;
     const xcb_setup_t *setup = xcb_get_setup(m_xcb);
-    for (auto format = xcb_setup_pixmap_formats_iterator(setup); format.rem > 0; xcb_format_next(&format)) {
-        if (format.data->depth == m_screen->root_depth)
-            layout.bitsPerPixel = format.data->bits_per_pixel;
-    }
-    for (auto depth = xcb_screen_allowed_depths_iterator(m_screen); depth.rem > 0; xcb_depth_next(&depth)) {
-        for (auto visual = xcb_depth_visuals_iterator(depth.data); visual.rem > 0; xcb_visualtype_next(&visual)) {
-            if (visual.data->visual_id != m_screen->root_visual)
-                continue;
-            layout.redMask = visual.data->red_mask;
-            layout.greenMask = visual.data->green_mask;
-            layout.blueMask = visual.data->blue_mask;
-        }
-    }
     const bool sameOrder
         = (setup->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST) == (std::endian::native == std::endian::little);
     if (!sameOrder)
-        layout.bitsPerPixel = 0;
+        return layout;
+    for (auto format = xcb_setup_pixmap_formats_iterator(setup); format.rem > 0; xcb_format_next(&format)) {
+        if (format.data->depth == depth)
+            layout.bitsPerPixel = format.data->bits_per_pixel;
+    }
+    for (auto allowed = xcb_screen_allowed_depths_iterator(m_screen); allowed.rem > 0; xcb_depth_next(&allowed)) {
+        for (auto type = xcb_depth_visuals_iterator(allowed.data); type.rem > 0; xcb_visualtype_next(&type)) {
+            if (type.data->visual_id != visual)
+                continue;
+            layout.redMask = type.data->red_mask;
+            layout.greenMask = type.data->green_mask;
+            layout.blueMask = type.data->blue_mask;
+        }
+    }
     return layout;
 }
 
-double X11Connection::scale() const
+double X11Connection::textDpi() const
 {
-    constexpr uint32_t longestInWords = 16 * 1024;
-    const XcbReply<xcb_get_property_reply_t> resources(xcb_get_property_reply(m_xcb,
-        xcb_get_property(m_xcb, 0, root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 0, longestInWords), nullptr));
-    if (!resources)
-        return 1;
-    const QByteArray text(static_cast<const char *>(xcb_get_property_value(resources.get())),
-        xcb_get_property_value_length(resources.get()));
-    for (const QByteArray &line : text.split('\n')) {
+    double dpi = 0;
+    const QByteArray resources = PropertyRequest(m_xcb, root(), XCB_ATOM_RESOURCE_MANAGER).bytes();
+    for (const QByteArray &line : resources.split('\n')) {
         if (line.startsWith("Xft.dpi:"))
-            return std::clamp(std::round(line.mid(8).trimmed().toDouble() / 96 * 4) / 4, 1.0, 4.0);
+            dpi = line.mid(8).trimmed().toDouble();
     }
-    return 1;
+    return std::isfinite(dpi) ? dpi : 0;
 }
 
-bool X11Connection::hasSharedMemory() const
+const X11Atoms &X11Connection::atoms() const
 {
-    const auto *extension = xcb_get_extension_data(m_xcb, &xcb_shm_id);
-    return extension && extension->present;
+    if (!m_atoms)
+        m_atoms.emplace(m_xcb);
+    return *m_atoms;
+}
+
+bool X11Connection::hasExtension(xcb_extension_t &extension) const
+{
+    const auto *data = xcb_get_extension_data(m_xcb, &extension);
+    return data && data->present;
+}
+
+XcbReply<xcb_generic_event_t> X11Connection::takeEvent(uint8_t type) const
+{
+    while (XcbReply<xcb_generic_event_t> event { xcb_poll_for_event(m_xcb) }) {
+        if ((event->response_type & 0x7f) == type)
+            return event;
+    }
+    return nullptr;
+}
+
+void X11Connection::dropEvents() const
+{
+    while (XcbReply<xcb_generic_event_t> event { xcb_poll_for_event(m_xcb) }) { }
 }
 
 } // namespace tessaly

@@ -2,21 +2,15 @@
 #pragma once
 
 #include "core/Base/Result.h"
+#include "platform/x11/X11Atoms.h"
+#include "platform/x11/X11Reply.h"
 
 #include <QRect>
 
-#include <cstdlib>
 #include <memory>
-#include <xcb/xcb.h>
+#include <optional>
 
 namespace tessaly {
-
-/// Replies of the server are malloc'ed and ours to free.
-struct FreeReply {
-    void operator()(void *reply) const { std::free(reply); }
-};
-template <class Reply>
-using XcbReply = std::unique_ptr<Reply, FreeReply>;
 
 /// One connection to an X server and what it says about its default screen.
 class X11Connection {
@@ -33,7 +27,7 @@ public:
     /// The root window in device pixels, asked for anew: it changes when monitors do.
     QRect rootPixelRect() const;
 
-    /// How the root window's pixels lie in memory.
+    /// How pixels lie in the server's pictures.
     struct PixelLayout {
         int bitsPerPixel = 0;
         uint32_t redMask = 0;
@@ -44,17 +38,31 @@ public:
         bool isRgb32() const;
     };
     PixelLayout rootPixelLayout() const;
+    /// The same for another visual of the screen; without bits when the server does not have it.
+    PixelLayout pixelLayout(uint8_t depth, xcb_visualid_t visual) const;
+    uint8_t rootDepth() const { return m_screen->root_depth; }
 
-    /// Pixels per point of the desktop: the server's Xft.dpi against 96, in steps of a quarter; 1 without one.
-    double scale() const;
+    /// The server's Xft.dpi, the resolution that its programs draw text for; 0 without one.
+    double textDpi() const;
 
-    bool hasSharedMemory() const;
+    /// Asked of the server at the first use.
+    const X11Atoms &atoms() const;
+
+    bool hasExtension(xcb_extension_t &extension) const;
+    bool hasCompositingManager() const { return tessaly::hasCompositingManager(m_xcb, m_screenNumber); }
+
+    /// The first event that has come of the type, the others before it dropped; null for none. A connection that asked
+    /// for no events still gets some, and errors of windows that went away: without this call they pile up.
+    XcbReply<xcb_generic_event_t> takeEvent(uint8_t type) const;
+    void dropEvents() const;
 
 private:
-    X11Connection(xcb_connection_t *xcb, xcb_screen_t *screen) : m_xcb(xcb), m_screen(screen) { }
+    X11Connection(xcb_connection_t *xcb, xcb_screen_t *screen, int screenNumber);
 
     xcb_connection_t *m_xcb;
     xcb_screen_t *m_screen; ///< lives as long as the connection
+    int m_screenNumber;
+    mutable std::optional<X11Atoms> m_atoms;
 };
 
 } // namespace tessaly

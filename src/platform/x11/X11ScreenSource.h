@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Capture/ScreenSource.h"
+#include "core/Screen/ScreenSource.h"
 
 #include <memory>
 
 namespace tessaly {
 
+class DrawingPause;
+class SegmentPool;
 class SharedSegment;
 class X11Connection;
 
@@ -23,22 +25,33 @@ public:
 
     /// What lies outside the desktop is cut off. With repeated use the picture's pixels are the kept shared memory
     /// itself, not a copy: while a picture lives, the next capture takes other memory.
-    Result<RasterImage> capture(const QRect &pixelRect, double scale) override;
+    void capture(const Shot &shot, Answer answer) override;
+    bool canLeaveOutDesktopIcons() const override { return true; }
+    /// Within half a second; see DrawingPause.
+    void whenSettled(std::function<void()> then) override;
+    /// One piece of shared memory for each monitor.
+    void prepare() override;
+    void release() override;
 
 private:
     X11ScreenSource(CaptureUse use, std::shared_ptr<X11Connection> connection);
 
-    /// Null where shared memory cannot be had or the server's pixels need converting.
+    /// `rootPixelRect` lies on the root window.
+    QImage captureRoot(const QRect &rootPixelRect, bool inStrips);
+
+    /// Not where the server has no shared memory, or its pixels need converting.
+    bool canShareScreen() const;
+    /// Null where shared memory is refused.
     QImage captureShared(const QRect &pixelRect);
     QImage captureInStrips(const QRect &pixelRect);
-    QImage captureThroughSocket(const QRect &pixelRect);
 
     /// Makes the server write the rectangle's pixels to the start of the segment.
-    bool fillSegment(const QRect &pixelRect) const;
+    bool fill(const SharedSegment &segment, const QRect &pixelRect) const;
 
     CaptureUse m_use;
     std::shared_ptr<X11Connection> m_connection;
-    std::shared_ptr<SharedSegment> m_segment;
+    std::unique_ptr<SegmentPool> m_pool;
+    std::unique_ptr<DrawingPause> m_drawingPause;
 };
 
 } // namespace tessaly

@@ -52,6 +52,7 @@ std::span<const EditorActions::Row> EditorActions::rows()
         { Id::ResizeImage, &EditorActions::resize, &EditorActions::isNotCropping },
         { Id::Sharpen, &EditorActions::sharpen, &EditorActions::isNotCropping },
         { Id::Crop, &EditorActions::crop, &EditorActions::isNotCropping },
+        { Id::PinToScreen, &EditorActions::pin, &EditorActions::canPin },
     };
     return table;
 }
@@ -111,6 +112,12 @@ void EditorActions::copyImage()
     m_services.exports.copy(*picture, true);
     m_store.markExported();
     Q_EMIT message(tr("Copied to clipboard"));
+}
+
+void EditorActions::pin()
+{
+    if (const auto picture = m_services.documents.flattened(m_store))
+        m_services.pin(*picture);
 }
 
 bool EditorActions::canShare() const { return m_services.exports.canShare(); }

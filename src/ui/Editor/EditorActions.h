@@ -64,6 +64,8 @@ private:
     void resize();
     void sharpen();
     void crop();
+    void pin();
+    bool canPin() const { return bool(m_services.pin); }
     bool isNotCropping() const { return !m_store.isCropping(); }
 
     AnnotationStore &m_store;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 namespace tessaly {
 
 class Alerts;
@@ -8,6 +10,7 @@ class Appearance;
 class CaptureHistory;
 class Clipboard;
 class Clock;
+class CommandTarget;
 class CopiedStyle;
 class DocumentActions;
 class ExportService;
@@ -21,6 +24,7 @@ class TextCopier;
 class TextRecognizer;
 class Toasts;
 class Links;
+struct RasterImage;
 
 /// What every editor needs of the program. Each outlives all editors.
 struct EditorServices {
@@ -42,6 +46,8 @@ struct EditorServices {
     Toasts &toasts;
     Links &links;
     OpenPanels &openPanels;
+    CommandTarget *captures = nullptr; ///< the commands that capture; without it there are none
+    std::function<void(const RasterImage &)> pin = {}; ///< shows a picture above all windows; nothing can be without
 };
 
 } // namespace tessaly

@@ -73,7 +73,17 @@ CommandHooks EditorWindow::Implementation::hooks()
         return command == CommandId::ToggleSnapping && tabs && tabs->current()
             && tabs->current()->canvas().controller().snapping();
     };
-    hooks.isOffered = [this](CommandId command) { return command != CommandId::Share || services.exports.canShare(); };
+    hooks.isOffered = [this](CommandId command) {
+        switch (command) {
+        case CommandId::Share:
+            return services.exports.canShare();
+        case CommandId::CaptureWindow: // not on every desktop
+        case CommandId::CaptureFrontWindow:
+            return commands.knows(command);
+        default:
+            return true;
+        }
+    };
     hooks.currentTool = [this] {
         EditorView *editor = tabs ? tabs->current() : nullptr;
         return editor ? std::optional(editor->store().tool()) : std::nullopt;

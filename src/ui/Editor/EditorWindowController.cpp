@@ -367,7 +367,7 @@ bool EditorWindowController::knows(CommandId command) const
     case CommandId::NewCollageStacked:
         return true;
     default:
-        return false;
+        return m_services.captures && m_services.captures->knows(command);
     }
 }
 
@@ -377,7 +377,22 @@ void EditorWindowController::createCollage(CollageLayout layout)
     CollageService({ m_services.openPanels, m_services.work, m_services.alerts, open }).createFromPanel(layout);
 }
 
-bool EditorWindowController::canPerform(CommandId command) const { return knows(command); }
+bool EditorWindowController::canPerform(CommandId command) const
+{
+    CommandTarget *captures = m_services.captures;
+    return captures && captures->knows(command) ? captures->canPerform(command) : knows(command);
+}
+
+QList<MenuChoice> EditorWindowController::choices(CommandId command) const
+{
+    return m_services.captures ? m_services.captures->choices(command) : QList<MenuChoice>();
+}
+
+void EditorWindowController::choose(CommandId command, const QString &value)
+{
+    if (m_services.captures)
+        m_services.captures->choose(command, value);
+}
 
 void EditorWindowController::perform(CommandId command)
 {
@@ -401,7 +416,8 @@ void EditorWindowController::perform(CommandId command)
     case CommandId::NewCollageStacked:
         return createCollage(CollageLayout::Stacked);
     default:
-        return;
+        if (m_services.captures && m_services.captures->knows(command))
+            m_services.captures->perform(command);
     }
 }
 

@@ -73,6 +73,8 @@ public:
     bool knows(CommandId command) const override;
     bool canPerform(CommandId command) const override;
     void perform(CommandId command) override;
+    QList<MenuChoice> choices(CommandId command) const override;
+    void choose(CommandId command, const QString &value) override;
 
 Q_SIGNALS:
     void quitRequested();

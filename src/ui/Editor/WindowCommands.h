@@ -22,6 +22,8 @@ public:
     bool knows(CommandId command) const override;
     bool canPerform(CommandId command) const override;
     void perform(CommandId command) override;
+    QList<MenuChoice> choices(CommandId command) const override { return m_program.choices(command); }
+    void choose(CommandId command, const QString &value) override { m_program.choose(command, value); }
 
 private:
     CommandTarget *targetOf(CommandId command) const;

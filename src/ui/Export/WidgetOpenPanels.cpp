@@ -24,4 +24,16 @@ std::optional<QStringList> WidgetOpenPanels::chooseImages()
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFiles()) : std::nullopt;
 }
 
+std::optional<QString> WidgetOpenPanels::chooseFolder(
+    const QString &message, const QString &prompt, const QString &folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), message, folder);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setLabelText(QFileDialog::Accept, prompt);
+    FileDialogParts::makeRoom(dialog);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFiles().value(0)) : std::nullopt;
+}
+
 } // namespace tessaly

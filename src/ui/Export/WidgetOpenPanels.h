@@ -9,6 +9,8 @@ namespace tessaly {
 class WidgetOpenPanels final : public OpenPanels {
 public:
     std::optional<QStringList> chooseImages() override;
+    std::optional<QString> chooseFolder(
+        const QString &message, const QString &prompt, const QString &folder) override;
 };
 
 } // namespace tessaly

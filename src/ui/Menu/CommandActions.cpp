@@ -29,6 +29,8 @@ CommandActions::CommandActions(QWidget *window, CommandHooks hooks) :
     m_window(window),
     m_hooks(std::move(hooks))
 {
+    if (!m_hooks.fullScreenOn.choices)
+        m_hooks.fullScreenOn = choicesOfTarget(CommandId::FullScreenOn);
     for (const CommandRow &row : commandTable())
         addCommand(row);
     for (const ToolRow &row : toolTable())
@@ -41,6 +43,20 @@ CommandActions::CommandActions(QWidget *window, CommandHooks hooks) :
 }
 
 CommandActions::~CommandActions() = default;
+
+ChoiceMenu CommandActions::choicesOfTarget(CommandId command) const
+{
+    return { .choices =
+                 [this, command] {
+                     const CommandTarget *target = m_hooks.target();
+                     return target ? target->choices(command) : QList<MenuChoice>();
+                 },
+        .choose =
+            [this, command](const QString &value) {
+                if (CommandTarget *target = m_hooks.target())
+                    target->choose(command, value);
+            } };
+}
 
 void CommandActions::addCommand(const CommandRow &row)
 {

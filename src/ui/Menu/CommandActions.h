@@ -16,12 +16,6 @@ class QWidget;
 
 namespace tessaly {
 
-/// One row of a submenu that is filled each time it opens.
-struct MenuChoice {
-    QString title;
-    QString value; ///< what choosing the row hands back: a path, a format
-};
-
 struct ChoiceMenu {
     std::function<QList<MenuChoice>()> choices = {};
     std::function<void(const QString &value)> choose = {};
@@ -37,6 +31,7 @@ struct CommandHooks {
     std::function<void(Tool)> chooseTool = {};
     ChoiceMenu openRecent = {};
     ChoiceMenu exportAs = {};
+    ChoiceMenu fullScreenOn = {}; ///< of the target, without
 };
 
 /// The QActions of one window: one for each command and each tool, shared by its menus and tool bars, so that state,
@@ -60,6 +55,7 @@ private:
     void addCommand(const CommandRow &row);
     void addTool(const ToolRow &row);
     void perform(CommandId command);
+    ChoiceMenu choicesOfTarget(CommandId command) const;
 
     QWidget *m_window;
     CommandHooks m_hooks;

@@ -38,6 +38,8 @@ const ChoiceMenu *choiceMenuOf(CommandId command, const CommandHooks &hooks)
         return &hooks.openRecent;
     case CommandId::ExportAs:
         return &hooks.exportAs;
+    case CommandId::FullScreenOn:
+        return &hooks.fullScreenOn;
     default:
         return nullptr;
     }
@@ -104,7 +106,7 @@ void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
     for (const CommandRow &row : commandTable()) {
         if (row.menu != which || (isOffered && !isOffered(row.id)))
             continue;
-        if (row.group != group)
+        if (row.group != group && !menu.isEmpty())
             menu.addSeparator();
         group = row.group;
         const ChoiceMenu *choices = choiceMenuOf(row.id, actions.hooks());

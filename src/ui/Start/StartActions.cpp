@@ -61,15 +61,35 @@ void StartButton::paintEvent(QPaintEvent *)
         int(Qt::AlignVCenter | Qt::AlignLeading) | Qt::TextSingleLine, text());
 }
 
-StartActions::StartActions(std::function<void()> openFile, std::function<void()> paste, QWidget *parent) :
+QList<StartAction> StartActions::actionsFor(Requests requests)
+{
+    const std::pair<CommandId, QString> captures[] = {
+        { CommandId::CaptureRegion, tr("Capture Region") },
+        { CommandId::CaptureWindow, tr("Capture Window") },
+        { CommandId::CaptureFullScreen, tr("Full Screen") },
+    };
+    QList<StartAction> actions;
+    CommandTarget *program = requests.program;
+    for (const auto &[command, title] : captures) {
+        if (!program || !program->knows(command))
+            continue;
+        const CommandRow &row = tessaly::command(command);
+        actions += { title, QLatin1StringView(row.icon), actions.isEmpty(), commandToolTip(row),
+            [program, command = command] { program->perform(command); } };
+    }
+    const bool first = actions.isEmpty();
+    const int group = first ? 0 : 1;
+    actions += { tr("Open…"), QLatin1StringView("open"), first, tr("Open a picture or a document (Ctrl+O)"),
+        std::move(requests.openFile), group };
+    actions += { tr("Paste"), QLatin1StringView("paste"), false, {}, std::move(requests.paste), group };
+    return actions;
+}
+
+StartActions::StartActions(Requests requests, QWidget *parent) :
     QWidget(parent),
     m_groupsLayout(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
-    const StartAction actions[] = {
-        { tr("Open…"), QLatin1StringView("open"), true, tr("Open a picture or a document (Ctrl+O)"),
-            std::move(openFile) },
-        { tr("Paste"), QLatin1StringView("paste"), false, {}, std::move(paste) },
-    };
+    const QList<StartAction> actions = actionsFor(std::move(requests));
     m_groupsLayout->setContentsMargins({});
     m_groupsLayout->setSpacing(groupGap);
     for (const StartAction &action : actions) {
@@ -77,6 +97,7 @@ StartActions::StartActions(std::function<void()> openFile, std::function<void()>
             m_groups += new QBoxLayout(QBoxLayout::LeftToRight);
             m_groups.last()->setSpacing(buttonGap);
             m_groupsLayout->addLayout(m_groups.last());
+            m_groupsLayout->setAlignment(m_groups.last(), Qt::AlignLeft); // not spread where they are stacked
         }
         m_paste = new StartButton(action);
         m_groups.last()->addWidget(m_paste);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/Menu/CommandTarget.h"
+
 #include <QBoxLayout>
 #include <QPushButton>
 
@@ -41,7 +43,12 @@ class StartActions : public QWidget {
     Q_OBJECT
 
 public:
-    StartActions(std::function<void()> openFile, std::function<void()> paste, QWidget *parent = nullptr);
+    struct Requests {
+        std::function<void()> openFile;
+        std::function<void()> paste;
+        CommandTarget *program = nullptr; ///< outlives this; without it nothing can be captured
+    };
+    explicit StartActions(Requests requests, QWidget *parent = nullptr);
 
     /// "Paste" can be used only then.
     void setClipboardHasImage(bool has);
@@ -52,6 +59,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    static QList<StartAction> actionsFor(Requests requests);
     int rowWidth() const;
 
     QBoxLayout *m_groupsLayout;

@@ -20,6 +20,16 @@ constexpr PlatformTexts::Row table[] = {
         "Captures are kept only on this computer, until you delete them." },
     { "Captures are kept only on this Mac, for %1 days.", "Captures are kept only on this computer, for %1 days." },
     { "Live Text isn't available on this Mac", "Live Text isn't available on this computer" },
+    { "Choose the folder where macOS saves screenshots (usually the Desktop).",
+        "Choose the folder where your desktop saves screenshots (usually Screenshots in Pictures)." },
+    { "Can't grant the permission? Keep using the macOS shortcut ⇧⌘4 and Tessaly will open each screenshot in the "
+      "editor, or paste a screenshot with ⇧⌘N.",
+        "You can also keep using the screenshot key of your desktop: Tessaly will open each screenshot in the editor. "
+        "Or paste a screenshot with Ctrl+Shift+N." },
+    { "Clicks now pass through. To unlock, choose Unlock Pinned Screenshots from the Tessaly menu bar icon or the "
+      "Window menu.",
+        "Clicks now pass through. To unlock, choose Unlock Pinned Screenshots from the Image menu of a Tessaly window "
+        "(Ctrl+Alt+U)." },
 };
 
 } // namespace

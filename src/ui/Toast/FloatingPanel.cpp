@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Toast/FloatingPanel.h"
 
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QStyle>
+
 #include <cmath>
 
 namespace tessaly {
+
+bool windowsHaveOpacity() { return !QGuiApplication::platformName().startsWith(u"wayland"); }
 
 FloatingPanel::FloatingPanel(Qt::WindowFlags flags, double cornerRadius) :
     QWidget(nullptr, flags | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint),
@@ -13,9 +19,12 @@ FloatingPanel::FloatingPanel(Qt::WindowFlags flags, double cornerRadius) :
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setWindowOpacity(0);
+    setProperty("tessalyEndsWithCapture", true);
+    if (windowsHaveOpacity())
+        setWindowOpacity(0);
     constexpr int fadeMilliseconds = 180;
-    m_fade.setDuration(fadeMilliseconds);
+    const bool moves = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+    m_fade.setDuration(moves ? fadeMilliseconds : 0);
     m_fade.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&m_fade, &QVariantAnimation::valueChanged, this,
         [this](const QVariant &opacity) { setWindowOpacity(opacity.toDouble()); });
@@ -34,9 +43,22 @@ void FloatingPanel::fadeIn()
 
 void FloatingPanel::fadeOut() { fadeTo(0); }
 
+void FloatingPanel::announce()
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
 void FloatingPanel::fadeTo(double opacity)
 {
     m_fade.stop();
+    if (!windowsHaveOpacity()) {
+        if (opacity <= 0)
+            close();
+        return;
+    }
     m_fade.setStartValue(windowOpacity());
     m_fade.setEndValue(opacity);
     m_fade.start();

@@ -6,8 +6,12 @@
 
 namespace tessaly {
 
+/// Whether the window system makes whole windows translucent. A Wayland compositor has no request for it: there a
+/// window comes and goes at once, and paints what shall be faint.
+bool windowsHaveOpacity();
+
 /// A small window with rounded corners over everything else. It comes and goes softly, never takes the focus by
-/// itself, and deletes itself when it is closed.
+/// itself, and deletes itself when it is closed. A capture ends it, by its property "tessalyEndsWithCapture".
 class FloatingPanel : public QWidget {
     Q_OBJECT
 
@@ -18,6 +22,8 @@ public:
     void fadeIn();
     /// Closes it at the end.
     void fadeOut();
+    /// A screen reader says the panel's accessible name without going there.
+    void announce();
 
 protected:
     double cornerRadius() const { return m_cornerRadius; }

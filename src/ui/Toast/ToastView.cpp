@@ -28,9 +28,9 @@ void ToastView::paintEvent(QPaintEvent *)
     constexpr double opacity = 0.82;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(QColor(255, 255, 255, 50)); // it is seen on black, too
     painter.setBrush(QColor::fromRgbF(0, 0, 0, opacity));
-    painter.drawRoundedRect(rect(), cornerRadius(), cornerRadius());
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius(), cornerRadius());
     painter.setPen(Qt::white);
     const int room = width() - air / 2;
     painter.drawText(rect(), Qt::AlignCenter, fontMetrics().elidedText(m_message, Qt::ElideRight, room));

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Toast/WidgetToasts.h"
 
+#include "core/Desktop/WindowLayers.h"
 #include "ui/Toast/LinkToastView.h"
 #include "ui/Toast/ToastView.h"
 
-#include <QAccessible>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 namespace tessaly {
 
@@ -23,15 +24,6 @@ void place(QWidget &panel, const QRect &area)
         area.top() + area.height() - distanceFromBottom - panel.height());
 }
 
-/// A screen reader says it without going there.
-void speak(QWidget &panel)
-{
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(&panel, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
-}
-
 } // namespace
 
 struct WidgetToasts::Implementation {
@@ -41,16 +33,34 @@ struct WidgetToasts::Implementation {
         delete link;
     }
 
+    /// Lets the panel come where it has been placed.
+    void show(FloatingPanel &panel, WindowLayers::Keyboard keyboard) const
+    {
+        if (layers) {
+            panel.winId(); // makes the native window
+            QScreen *screen = QGuiApplication::primaryScreen();
+            layers->prepareFloat(
+                *panel.windowHandle(), *screen, panel.geometry().translated(-screen->geometry().topLeft()), keyboard);
+            if (panel.windowFlags().testFlag(Qt::WindowTransparentForInput))
+                layers->setPassesClicks(*panel.windowHandle(), true);
+        }
+        panel.fadeIn();
+        panel.announce();
+    }
+
     QPointer<ToastView> notice;
     QPointer<LinkToastView> link;
+    WindowLayers *layers = nullptr;
 };
 
 WidgetToasts::WidgetToasts() : m_implementation(std::make_unique<Implementation>()) { }
 WidgetToasts::~WidgetToasts() = default;
+void WidgetToasts::setLayers(WindowLayers *layers) { m_implementation->layers = layers; }
 
 void WidgetToasts::show(const QString &message, std::chrono::milliseconds duration)
 {
-    auto &[notice, link] = *m_implementation;
+    QPointer<ToastView> &notice = m_implementation->notice;
+    QPointer<LinkToastView> &link = m_implementation->link;
     delete notice;
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     notice = new ToastView(message, screen.width() - ToastView::air);
@@ -58,20 +68,19 @@ void WidgetToasts::show(const QString &message, std::chrono::milliseconds durati
     constexpr int air = 8;
     if (link && link->geometry().intersects(notice->geometry())) // both can be read
         notice->move(notice->x(), link->y() - air - notice->height());
-    notice->fadeIn();
-    speak(*notice);
+    m_implementation->show(*notice, WindowLayers::Keyboard::Never);
     QTimer::singleShot(duration, notice, &FloatingPanel::fadeOut);
 }
 
 void WidgetToasts::showLink(const QString &message, const QString &host, std::function<void()> onOpen)
 {
-    auto &[notice, link] = *m_implementation;
+    QPointer<ToastView> &notice = m_implementation->notice;
+    QPointer<LinkToastView> &link = m_implementation->link;
     delete notice;
     delete link;
     link = new LinkToastView(message, host, std::move(onOpen), [] {});
     place(*link, QGuiApplication::primaryScreen()->availableGeometry());
-    link->fadeIn();
-    speak(*link);
+    m_implementation->show(*link, WindowLayers::Keyboard::OnClick);
 }
 
 } // namespace tessaly

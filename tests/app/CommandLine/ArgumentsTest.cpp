@@ -48,8 +48,23 @@ private Q_SLOTS:
         QTest::newRow("no command of history") << QStringList { "history" } << "command";
         QTest::newRow("nothing to search") << QStringList { "history", "search" } << "QUERY";
         QTest::newRow("nobody to ask") << QStringList { "history", "empty" } << "--yes";
+        QTest::newRow("capture into no file") << QStringList { "capture", "full-screen", "-o", "" } << "-o";
         QTest::newRow("display 0") << QStringList { "capture", "full-screen", "-o", "x", "--display", "0" }
                                    << "--display";
+        const auto row = [](const char *name, const QStringList &arguments, const char *fragment) {
+            QTest::newRow(name) << QStringList { "capture" } + arguments << fragment;
+        };
+        row("a place that is none", { "region", "--to", "moon" }, "\"moon\"");
+        row("a file that is not written", { "region", "--to", "clipboard", "-o", "x.png" }, "--to clipboard");
+        row("three numbers", { "region", "--rect", "1,2,3" }, "\"1,2,3\"");
+        row("a display to select on", { "region", "--display", "1" }, "--rect");
+        row("a selection to standard output", { "region", "-o", "-" }, "standard output");
+        row("an area of a window", { "window", "--rect", "1,2,3,4" }, "\"--rect\"");
+        row("a display of the last region", { "last-region", "--display", "1" }, "\"--display\"");
+        row("a window of a display", { "full-screen", "--window", "1" }, "\"--window\"");
+        row("a delay of nothing", { "front-window", "--delay", "-1" }, "--delay");
+        row("nothing to show it on", { "full-screen" }, "no display");
+        row("nothing to select on", { "region", "-o", "x.png" }, "no display");
     }
 
     void wrongUsageEndsWithTwo()
@@ -71,14 +86,18 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("command");
         QTest::addColumn<QStringList>("names");
         QTest::newRow("tessaly") << QStringList()
-                                 << QStringList { "export", "document", "info", "capture", "text", "history", "collage",
-                                        "--version" };
+                                 << QStringList { "export", "document", "info", "capture", "displays", "windows",
+                                        "text", "history", "collage", "--version" };
         QTest::newRow("export") << QStringList { "export" }
                                 << QStringList { "--output", "--format", "--quality", "--annotations", "--frame",
                                        "--watermark", "--scale", "--max-pixels", "INPUT..." };
         QTest::newRow("document") << QStringList { "document" } << QStringList { "--output", "--annotations" };
         QTest::newRow("info") << QStringList { "info" } << QStringList { "--json", "--frame" };
-        QTest::newRow("capture") << QStringList { "capture" } << QStringList { "full-screen" };
+        QTest::newRow("capture") << QStringList { "capture" }
+                                 << QStringList { "region", "window", "front-window", "full-screen", "last-region" };
+        QTest::newRow("region") << QStringList { "capture", "region" }
+                                << QStringList { "--to", "--output", "--delay", "--rect", "--display" };
+        QTest::newRow("windows") << QStringList { "windows" } << QStringList { "--json" };
         QTest::newRow("text") << QStringList { "text" } << QStringList { "--json", "--codes", "IMAGE..." };
         QTest::newRow("collage") << QStringList { "collage" }
                                  << QStringList { "IMAGE... --layout side-by-side|stacked -o OUT", "--gap", "#FFFFFF" };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/CommandLine/Program.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly::test;
 
@@ -14,22 +13,18 @@ class CollageCommandTest : public QObject {
 private Q_SLOTS:
     void picturesAreJoined_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("between"); ///< a point of the gap
-        QTest::addColumn<QColor>("background");
+        // between: a point of the gap
+        columns<QStringList, QString, QSize, QPoint, QColor>("options", "name", "size", "between", "background");
         // a.png is 40 × 20 points, b.png 30 × 10; a.png has 2 pixels per point where that is said.
-        QTest::newRow("side by side") << QStringList { "--layout", "side-by-side" } << "x.png"
-                                      << QSize(40 + 12 + 60, 20) << QPoint(45, 10) << QColor(Qt::white);
-        QTest::newRow("stacked with a gap of colour")
-            << QStringList { "--layout", "stacked", "--gap", "7", "--background", "#c080FF" } << "x.bmp"
-            << QSize(40, 40) << QPoint(3, 23) << QColor(0xc0, 0x80, 0xff);
-        QTest::newRow("clear gaps") << QStringList { "--layout", "side-by-side", "--gap", "1", "--background",
-            "00000000" } << "x.png" << QSize(40 + 1 + 60, 20)
-                                    << QPoint(40, 0) << QColor(0, 0, 0, 0);
-        QTest::newRow("of two pixels a point") << QStringList { "--layout", "side-by-side", "--scale", "2" } << "x.png"
-                                               << QSize(40 + 24 + 60, 20) << QPoint(50, 10) << QColor(Qt::white);
+        row("side by side", QStringList { "--layout", "side-by-side" }, "x.png", QSize(40 + 12 + 60, 20),
+            QPoint(45, 10), QColor(Qt::white));
+        row("stacked with a gap of colour",
+            QStringList { "--layout", "stacked", "--gap", "7", "--background", "#c080FF" }, "x.bmp", QSize(40, 40),
+            QPoint(3, 23), QColor(0xc0, 0x80, 0xff));
+        row("clear gaps", QStringList { "--layout", "side-by-side", "--gap", "1", "--background", "00000000" }, "x.png",
+            QSize(40 + 1 + 60, 20), QPoint(40, 0), QColor(0, 0, 0, 0));
+        row("of two pixels a point", QStringList { "--layout", "side-by-side", "--scale", "2" }, "x.png",
+            QSize(40 + 24 + 60, 20), QPoint(50, 10), QColor(Qt::white));
     }
 
     void picturesAreJoined()
@@ -61,17 +56,15 @@ private Q_SLOTS:
 
     void whatCannotBeJoined_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("fragment");
+        columns<QStringList, QString>("arguments", "fragment");
         const QStringList layout { "--layout", "stacked" };
-        QTest::newRow("a missing picture is named")
-            << QStringList { "a.png", "gone.png", "-o", "x.png" } + layout << "gone.png";
-        QTest::newRow("a broken one") << QStringList { "broken.png", "a.png", "-o", "x.png" } + layout << "broken.png";
-        QTest::newRow("onto one of them") << QStringList { "a.png", "-o", "a.png" } + layout << "a.png";
-        QTest::newRow("into a folder") << QStringList { "a.png", "-o", "." } + layout << "folder";
-        QTest::newRow("too large") << QStringList { "a.png", "-o", "x.png", "--max-pixels", "799" } + layout << "a.png";
-        QTest::newRow("too large together")
-            << QStringList { "a.png", "a.png", "-o", "x.png", "--max-pixels", "1000" } + layout << "--max-pixels";
+        row("a missing picture is named", QStringList { "a.png", "gone.png", "-o", "x.png" } + layout, "gone.png");
+        row("a broken one", QStringList { "broken.png", "a.png", "-o", "x.png" } + layout, "broken.png");
+        row("onto one of them", QStringList { "a.png", "-o", "a.png" } + layout, "a.png");
+        row("into a folder", QStringList { "a.png", "-o", "." } + layout, "folder");
+        row("too large", QStringList { "a.png", "-o", "x.png", "--max-pixels", "799" } + layout, "a.png");
+        row("too large together", QStringList { "a.png", "a.png", "-o", "x.png", "--max-pixels", "1000" } + layout,
+            "--max-pixels");
     }
 
     void whatCannotBeJoined()

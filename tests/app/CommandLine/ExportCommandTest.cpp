@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/CommandLine/Program.h"
+#include "tests/support/Rows.h"
 
 #include <QColorSpace>
-#include <QTest>
 
 using namespace tessaly::test;
 
@@ -17,33 +17,20 @@ class ExportCommandTest : public QObject {
 private Q_SLOTS:
     void formatFollowsOptionThenExtensionThenSettings_data()
     {
-        QTest::addColumn<QString>("output");
-        QTest::addColumn<QString>("option");
-        QTest::addColumn<QByteArray>("start"); // of the file
-        QTest::newRow("png") << "out.png"
-                             << "" << QByteArray("\x89PNG");
-        QTest::newRow("jpg") << "out.jpg"
-                             << "" << QByteArray("\xff\xd8\xff");
-        QTest::newRow("jpeg, in capitals") << "out.JPEG"
-                                           << "" << QByteArray("\xff\xd8\xff");
-        QTest::newRow("webp") << "out.webp"
-                              << "" << QByteArray("RIFF");
-        QTest::newRow("pdf") << "out.pdf"
-                             << "" << QByteArray("%PDF");
-        QTest::newRow("tif") << "out.tif"
-                             << "" << QByteArray("II*");
-        QTest::newRow("gif") << "out.gif"
-                             << "" << QByteArray("GIF8");
-        QTest::newRow("bmp") << "out.bmp"
-                             << "" << QByteArray("BM");
-        QTest::newRow("the option wins") << "out.png"
-                                         << "gif" << QByteArray("GIF8");
-        QTest::newRow("settings for an unknown extension") << "out.picture"
-                                                           << "" << QByteArray("BM");
-        QTest::newRow("settings for standard output") << "-"
-                                                      << "" << QByteArray("BM");
-        QTest::newRow("option for standard output") << "-"
-                                                    << "png" << QByteArray("\x89PNG");
+        // start: of the file
+        columns<QString, QString, QByteArray>("output", "option", "start");
+        row("png", "out.png", "", QByteArray("\x89PNG"));
+        row("jpg", "out.jpg", "", QByteArray("\xff\xd8\xff"));
+        row("jpeg, in capitals", "out.JPEG", "", QByteArray("\xff\xd8\xff"));
+        row("webp", "out.webp", "", QByteArray("RIFF"));
+        row("pdf", "out.pdf", "", QByteArray("%PDF"));
+        row("tif", "out.tif", "", QByteArray("II*"));
+        row("gif", "out.gif", "", QByteArray("GIF8"));
+        row("bmp", "out.bmp", "", QByteArray("BM"));
+        row("the option wins", "out.png", "gif", QByteArray("GIF8"));
+        row("settings for an unknown extension", "out.picture", "", QByteArray("BM"));
+        row("settings for standard output", "-", "", QByteArray("BM"));
+        row("option for standard output", "-", "png", QByteArray("\x89PNG"));
     }
 
     void formatFollowsOptionThenExtensionThenSettings()
@@ -110,14 +97,13 @@ private Q_SLOTS:
 
     void scaleComesFromTheResolutionOrTheOption_data()
     {
-        QTest::addColumn<int>("dpi"); // of the input, 0 for none
-        QTest::addColumn<QStringList>("option");
-        QTest::addColumn<int>("written"); // the output's dpi
-        QTest::newRow("none") << 0 << QStringList() << 72;
-        QTest::newRow("two pixels a point") << 144 << QStringList() << 144;
-        QTest::newRow("no scale of ours") << 96 << QStringList() << 72;
-        QTest::newRow("the option wins") << 144 << QStringList { "--scale", "3" } << 216;
-        QTest::newRow("any scale is an option") << 0 << QStringList { "--scale", "1.1" } << 79;
+        // dpi: of the input, 0 for none; written: the output's dpi
+        columns<int, QStringList, int>("dpi", "option", "written");
+        row("none", 0, QStringList(), 72);
+        row("two pixels a point", 144, QStringList(), 144);
+        row("no scale of ours", 96, QStringList(), 72);
+        row("the option wins", 144, QStringList { "--scale", "3" }, 216);
+        row("any scale is an option", 0, QStringList { "--scale", "1.1" }, 79);
     }
 
     void scaleComesFromTheResolutionOrTheOption()

@@ -2,10 +2,10 @@
 #include "core/Export/ImageEncoder.h"
 #include "core/History/HistoryKeeper.h"
 #include "tests/app/CommandLine/Program.h"
+#include "tests/support/Rows.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTest>
 #include <QTimeZone>
 
 using namespace tessaly;
@@ -93,22 +93,20 @@ private Q_SLOTS:
 
     void searchesShowTheHit_data()
     {
-        QTest::addColumn<QStringList>("query");
-        QTest::addColumn<QString>("output");
-        QTest::newRow("in text and title") << QStringList { "total" }
-                                           << "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n"
-                                              "          Total 42\n"
-                                              "bbbb1111  2025-03-07 16:05  8×8    Total recall\n";
-        QTest::newRow("in a long line, without the accent")
-            << QStringList { "UBERSICHT" }
-            << "aaab1111  2025-03-08 16:05  1200×30  Mail?client\n"
-               "          …re words before the Übersicht of it words after words after word…\n";
-        QTest::newRow("every word, wherever") << QStringList { "42 screenshot" }
-                                              << "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n"
-                                                 "          Total 42\n";
-        QTest::newRow("as separate arguments")
-            << QStringList { "screenshot", "2025-03-09" } << "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n";
-        QTest::newRow("nothing") << QStringList { "nowhere" } << "";
+        columns<QStringList, QString>("query", "output");
+        row("in text and title", QStringList { "total" },
+            "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n"
+            "          Total 42\n"
+            "bbbb1111  2025-03-07 16:05  8×8    Total recall\n");
+        row("in a long line, without the accent", QStringList { "UBERSICHT" },
+            "aaab1111  2025-03-08 16:05  1200×30  Mail?client\n"
+            "          …re words before the Übersicht of it words after words after word…\n");
+        row("every word, wherever", QStringList { "42 screenshot" },
+            "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n"
+            "          Total 42\n");
+        row("as separate arguments", QStringList { "screenshot", "2025-03-09" },
+            "aaaa1111  2025-03-09 16:05  40×20  Screenshot\n");
+        row("nothing", QStringList { "nowhere" }, "");
     }
 
     void searchesShowTheHit()
@@ -132,17 +130,13 @@ private Q_SLOTS:
 
     void capturesAreRemoved_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("fragment");
-        QTest::addColumn<QStringList>("left");
+        columns<QStringList, int, QString, QStringList>("arguments", "status", "fragment", "left");
         const QStringList all { "aaaa", "aaab", "bbbb" };
-        QTest::newRow("one") << QStringList { "b" } << 0 << "" << QStringList { "aaaa", "aaab" };
-        QTest::newRow("several") << QStringList { "AAAA-1", "bbbb1111-0000-4000-8000-000000000003" } << 0 << ""
-                                 << QStringList { "aaab" };
-        QTest::newRow("an id of two") << QStringList { "bbbb", "aaa" } << 1 << "2 captures" << all;
-        QTest::newRow("an id of none") << QStringList { "bbbb", "cc" } << 1 << "\"cc\"" << all;
-        QTest::newRow("no id at all") << QStringList { "bbbb", "" } << 1 << "\"\"" << all;
+        row("one", QStringList { "b" }, 0, "", QStringList { "aaaa", "aaab" });
+        row("several", QStringList { "AAAA-1", "bbbb1111-0000-4000-8000-000000000003" }, 0, "", QStringList { "aaab" });
+        row("an id of two", QStringList { "bbbb", "aaa" }, 1, "2 captures", all);
+        row("an id of none", QStringList { "bbbb", "cc" }, 1, "\"cc\"", all);
+        row("no id at all", QStringList { "bbbb", "" }, 1, "\"\"", all);
     }
 
     void capturesAreRemoved()
@@ -171,13 +165,12 @@ private Q_SLOTS:
 
     void emptyingAsks_data()
     {
-        QTest::addColumn<QByteArray>("typed");
-        QTest::addColumn<int>("left");
-        QTest::newRow("yes") << QByteArray("y\n") << 0;
-        QTest::newRow("spelled out") << QByteArray("Yes\n") << 0;
-        QTest::newRow("no") << QByteArray("n\n") << 3;
-        QTest::newRow("nothing") << QByteArray("\n") << 3;
-        QTest::newRow("the end") << QByteArray("\4") << 3;
+        columns<QByteArray, int>("typed", "left");
+        row("yes", QByteArray("y\n"), 0);
+        row("spelled out", QByteArray("Yes\n"), 0);
+        row("no", QByteArray("n\n"), 3);
+        row("nothing", QByteArray("\n"), 3);
+        row("the end", QByteArray("\4"), 3);
     }
 
     void emptyingAsks()

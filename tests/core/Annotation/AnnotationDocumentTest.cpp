@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -80,8 +80,7 @@ private Q_SLOTS:
 
     void saysWhatIsWrong_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("sentence");
+        test::columns<QByteArray, QString>("json", "sentence");
         const auto row = [](const char *name, const QByteArray &json, const char *sentence) {
             QTest::newRow(name) << json << QString::fromUtf8(sentence);
         };
@@ -131,26 +130,24 @@ private Q_SLOTS:
 
     void refusesNumbersThatAreNone_data()
     {
-        QTest::addColumn<AnnotationDocument>("document");
-        QTest::addColumn<QString>("sentence");
+        test::columns<AnnotationDocument, QString>("document", "sentence");
         Annotation mark(AnnotationKind::Pen, { 0, 0 }, { 1, 1 });
         mark.points = { { 0, 0 }, { 0, qInf() } };
-        QTest::newRow("in a path") << documentWith(mark)
-                                   << QStringLiteral("The “points” of mark 1 has a number that is not finite.");
+        test::row(
+            "in a path", documentWith(mark), QStringLiteral("The “points” of mark 1 has a number that is not finite."));
         mark.points.clear();
         mark.tailAngle = qQNaN();
-        QTest::newRow("in an option") << documentWith(mark)
-                                      << QStringLiteral("The “tailAngle” of mark 1 has a number that is not finite.");
+        test::row("in an option", documentWith(mark),
+            QStringLiteral("The “tailAngle” of mark 1 has a number that is not finite."));
         AnnotationDocument document;
         document.canvasSize = { qInf(), 1 };
-        QTest::newRow("in the canvas") << document << QStringLiteral("“canvasSize” has a number that is not finite.");
+        test::row("in the canvas", document, QStringLiteral("“canvasSize” has a number that is not finite."));
         document.canvasSize = { 1, 1 };
         document.frame = FrameStyle { .padding = qQNaN() };
-        QTest::newRow("in the frame") << document << QStringLiteral("“padding” has a number that is not finite.");
+        test::row("in the frame", document, QStringLiteral("“padding” has a number that is not finite."));
         document.frame.reset();
         document.annotations = QList<Annotation>(AnnotationDocument::maxAnnotations + 1);
-        QTest::newRow("too many marks") << document
-                                        << QStringLiteral("There are 50001 marks; a document holds at most 50000.");
+        test::row("too many marks", document, QStringLiteral("There are 50001 marks; a document holds at most 50000."));
     }
 
     void refusesNumbersThatAreNone()
@@ -172,12 +169,11 @@ private Q_SLOTS:
 
     void probesTheVersion_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<int>("version");
+        test::columns<QByteArray, int>("json", "version");
         QTest::newRow("newer, and nothing else to read") << QByteArray(R"({"version":7,"annotations":3})") << 7;
-        QTest::newRow("none") << QByteArray("{}") << 1;
+        test::row("none", QByteArray("{}"), 1);
         QTest::newRow("of another type") << QByteArray(R"({"version":"7"})") << 1;
-        QTest::newRow("no JSON") << QByteArray("version 7") << 1;
+        test::row("no JSON", QByteArray("version 7"), 1);
     }
 
     void probesTheVersion()
@@ -188,13 +184,12 @@ private Q_SLOTS:
 
     void readsAFrameFromEitherFile_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("sentence");
+        test::columns<QByteArray, QString>("json", "sentence");
         QTest::newRow("bare") << QByteArray(R"({"padding":0.5})") << QString();
         QTest::newRow("of a document") << QByteArray(R"({"canvasSize":[1,1],"frame":{"padding":0.5}})") << QString();
         QTest::newRow("a document without")
             << QByteArray(R"({"canvasSize":[1,1]})") << QStringLiteral("There is no frame in it.");
-        QTest::newRow("a list") << QByteArray("[]") << QStringLiteral("There is no frame in it.");
+        test::row("a list", QByteArray("[]"), QStringLiteral("There is no frame in it."));
         QTest::newRow("ill-typed") << QByteArray(R"({"padding":true})")
                                    << QStringLiteral("The frame's “padding” cannot be true.");
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Annotation/AnnotationGeometry.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -12,15 +11,14 @@ class AnnotationGeometryTest : public QObject {
 private Q_SLOTS:
     void measuresToTheNearestPoint_data()
     {
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<QPointF>("to"); // the segment starts at (0, 0)
-        QTest::addColumn<double>("distance");
-        QTest::newRow("beside the middle") << QPointF(5, 3) << QPointF(10, 0) << 3.0;
-        QTest::newRow("before the start") << QPointF(-3, 4) << QPointF(10, 0) << 5.0;
-        QTest::newRow("past the end") << QPointF(13, -4) << QPointF(10, 0) << 5.0;
-        QTest::newRow("on it") << QPointF(2, 2) << QPointF(8, 8) << 0.0;
-        QTest::newRow("a segment of no length") << QPointF(3, 4) << QPointF(0, 0) << 5.0;
-        QTest::newRow("a segment too short to have a direction") << QPointF(3, 4) << QPointF(0.009, 0) << 5.0;
+        // to: the segment starts at (0, 0)
+        test::columns<QPointF, QPointF, double>("point", "to", "distance");
+        test::row("beside the middle", QPointF(5, 3), QPointF(10, 0), 3.0);
+        test::row("before the start", QPointF(-3, 4), QPointF(10, 0), 5.0);
+        test::row("past the end", QPointF(13, -4), QPointF(10, 0), 5.0);
+        test::row("on it", QPointF(2, 2), QPointF(8, 8), 0.0);
+        test::row("a segment of no length", QPointF(3, 4), QPointF(0, 0), 5.0);
+        test::row("a segment too short to have a direction", QPointF(3, 4), QPointF(0.009, 0), 5.0);
     }
 
     void measuresToTheNearestPoint()
@@ -45,11 +43,10 @@ private Q_SLOTS:
 
     void findsTheHandleBack_data()
     {
-        QTest::addColumn<QPointF>("p2");
-        QTest::addColumn<QPointF>("handle");
-        QTest::newRow("level") << QPointF(100, 0) << QPointF(0.5, -0.22);
-        QTest::newRow("steep, beyond the ends") << QPointF(-30, 80) << QPointF(1.7, 2.5);
-        QTest::newRow("short") << QPointF(0.02, 0.01) << QPointF(-3, 0.1);
+        test::columns<QPointF, QPointF>("p2", "handle");
+        test::row("level", QPointF(100, 0), QPointF(0.5, -0.22));
+        test::row("steep, beyond the ends", QPointF(-30, 80), QPointF(1.7, 2.5));
+        test::row("short", QPointF(0.02, 0.01), QPointF(-3, 0.1));
     }
 
     void findsTheHandleBack()
@@ -70,19 +67,16 @@ private Q_SLOTS:
 
     void trimsBothEnds_data()
     {
-        QTest::addColumn<double>("start");
-        QTest::addColumn<double>("end");
-        QTest::addColumn<QList<QPointF>>("kept");
+        test::columns<double, double, QList<QPointF>>("start", "end", "kept");
         // The path: 10 to the right, 10 down, 10 to the right.
         const QList<QPointF> whole { { 0, 0 }, { 10, 0 }, { 10, 10 }, { 20, 10 } };
-        QTest::newRow("inside the outer segments")
-            << 4.0 << 3.0 << QList<QPointF> { { 4, 0 }, { 10, 0 }, { 10, 10 }, { 17, 10 } };
-        QTest::newRow("a corner exactly at the cut comes once")
-            << 10.0 << 10.0 << QList<QPointF> { { 10, 0 }, { 10, 10 } };
-        QTest::newRow("within one segment") << 12.0 << 14.0 << QList<QPointF> { { 10, 2 }, { 10, 6 } };
-        QTest::newRow("nothing") << 0.0 << 0.0 << whole;
-        QTest::newRow("all of it") << 15.0 << 15.0 << whole;
-        QTest::newRow("more than all") << 40.0 << 0.0 << whole;
+        test::row(
+            "inside the outer segments", 4.0, 3.0, QList<QPointF> { { 4, 0 }, { 10, 0 }, { 10, 10 }, { 17, 10 } });
+        test::row("a corner exactly at the cut comes once", 10.0, 10.0, QList<QPointF> { { 10, 0 }, { 10, 10 } });
+        test::row("within one segment", 12.0, 14.0, QList<QPointF> { { 10, 2 }, { 10, 6 } });
+        test::row("nothing", 0.0, 0.0, whole);
+        test::row("all of it", 15.0, 15.0, whole);
+        test::row("more than all", 40.0, 0.0, whole);
     }
 
     void trimsBothEnds()

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -129,12 +129,11 @@ private Q_SLOTS:
 
     void anAbortedMarkLeavesNothing_data()
     {
-        QTest::addColumn<int>("before");
-        QTest::addColumn<bool>("saved");
-        QTest::newRow("the first") << 0 << true;
-        QTest::newRow("after others, saved") << 3 << true;
-        QTest::newRow("after others, unsaved") << 3 << false;
-        QTest::newRow("with all steps taken") << 100 << false;
+        test::columns<int, bool>("before", "saved");
+        test::row("the first", 0, true);
+        test::row("after others, saved", 3, true);
+        test::row("after others, unsaved", 3, false);
+        test::row("with all steps taken", 100, false);
     }
 
     void anAbortedMarkLeavesNothing()
@@ -168,13 +167,10 @@ private Q_SLOTS:
 
     void measuresThePicture_data()
     {
-        QTest::addColumn<QSize>("pixels");
-        QTest::addColumn<QSizeF>("points");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("dpi");
-        QTest::newRow("two pixels a point") << QSize(2400, 10) << QSizeF(1200, 5) << 2.0 << 144;
-        QTest::newRow("never below 1") << QSize(100, 10) << QSizeF(400, 40) << 1.0 << 18;
-        QTest::newRow("no width") << QSize() << QSizeF(0, 0) << 1.0 << 72;
+        test::columns<QSize, QSizeF, double, int>("pixels", "points", "scale", "dpi");
+        test::row("two pixels a point", QSize(2400, 10), QSizeF(1200, 5), 2.0, 144);
+        test::row("never below 1", QSize(100, 10), QSizeF(400, 40), 1.0, 18);
+        test::row("no width", QSize(), QSizeF(0, 0), 1.0, 72);
     }
 
     void measuresThePicture()

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Annotation/AnnotationLabels.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QJsonDocument>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -28,14 +28,13 @@ class AnnotationTest : public QObject {
 private Q_SLOTS:
     void keepsTheTailWithinItsRadii_data()
     {
-        QTest::addColumn<double>("width");
-        QTest::addColumn<double>("tailLength");
-        QTest::addColumn<double>("reach"); // from the centre, rightwards
-        QTest::newRow("as asked") << 40.0 << 34.0 << 34.0;
-        QTest::newRow("at least 1.4 radii") << 40.0 << 0.0 << 28.0;
-        QTest::newRow("at most 3 radii") << 40.0 << 1000.0 << 60.0;
-        QTest::newRow("a negative length") << 40.0 << -50.0 << 28.0;
-        QTest::newRow("a box without width has half a point of radius") << 0.0 << 34.0 << 1.5;
+        // reach: from the centre, rightwards
+        test::columns<double, double, double>("width", "tailLength", "reach");
+        test::row("as asked", 40.0, 34.0, 34.0);
+        test::row("at least 1.4 radii", 40.0, 0.0, 28.0);
+        test::row("at most 3 radii", 40.0, 1000.0, 60.0);
+        test::row("a negative length", 40.0, -50.0, 28.0);
+        test::row("a box without width has half a point of radius", 0.0, 34.0, 1.5);
     }
 
     void keepsTheTailWithinItsRadii()
@@ -58,15 +57,12 @@ private Q_SLOTS:
 
     void placesTheLabelByItsCharacters_data()
     {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<double>("side");
-        QTest::addColumn<QRectF>("rect"); // of a stamp at (0, 0)
-        QTest::newRow("one character on a small stamp") << QStringLiteral("A") << 20.0 << QRectF(23.52, 2, 22, 16);
-        QTest::newRow("ten characters") << QStringLiteral("ABCDEFGHIJ") << 40.0 << QRectF(44.84, 9, 147.4, 22);
-        QTest::newRow("a family is one character")
-            << QStringLiteral("👩‍👩‍👧") << 20.0 << QRectF(23.52, 2, 22, 16);
-        QTest::newRow("an accent is no character")
-            << QStringLiteral("e\u0301e\u0301") << 20.0 << QRectF(23.52, 2, 27.84, 16);
+        // rect: of a stamp at (0, 0)
+        test::columns<QString, double, QRectF>("label", "side", "rect");
+        test::row("one character on a small stamp", QStringLiteral("A"), 20.0, QRectF(23.52, 2, 22, 16));
+        test::row("ten characters", QStringLiteral("ABCDEFGHIJ"), 40.0, QRectF(44.84, 9, 147.4, 22));
+        test::row("a family is one character", QStringLiteral("👩‍👩‍👧"), 20.0, QRectF(23.52, 2, 22, 16));
+        test::row("an accent is no character", QStringLiteral("e\u0301e\u0301"), 20.0, QRectF(23.52, 2, 27.84, 16));
     }
 
     void placesTheLabelByItsCharacters()
@@ -82,24 +78,23 @@ private Q_SLOTS:
 
     void boundsEachKind_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<QRectF>("bounds");
+        test::columns<Annotation, QRectF>("mark", "bounds");
         Annotation text(AnnotationKind::Text, { 7, 9 }, { 500, 500 });
-        QTest::newRow("empty text") << text << QRectF(7, 9, 24, 23.4);
+        test::row("empty text", text, QRectF(7, 9, 24, 23.4));
         text.text = QStringLiteral("abcdefghij");
-        QTest::newRow("text") << text << QRectF(7, 9, 108, 23.4);
+        test::row("text", text, QRectF(7, 9, 108, 23.4));
         Annotation arrow(AnnotationKind::Arrow, { 110, 50 }, { 10, 70 });
-        QTest::newRow("dragged to the left") << arrow << QRectF(10, 50, 100, 20);
+        test::row("dragged to the left", arrow, QRectF(10, 50, 100, 20));
         arrow.p2 = { 10, 50 };
         arrow.curved = true;
-        QTest::newRow("a curve leftwards bends down") << arrow << QRectF(10, 50, 100, 22);
+        test::row("a curve leftwards bends down", arrow, QRectF(10, 50, 100, 22));
         Annotation stamp = stampIn({ 0, 0, 20, 20 });
-        QTest::newRow("stamp with a tail") << stamp << QRectF(0, 0, 40, 20);
+        test::row("stamp with a tail", stamp, QRectF(0, 0, 40, 20));
         stamp.stampLabel = QStringLiteral("A");
-        QTest::newRow("stamp with tail and label") << stamp << QRectF(0, 0, 45.52, 20);
+        test::row("stamp with tail and label", stamp, QRectF(0, 0, 45.52, 20));
         stamp.p2 = stamp.p1;
         stamp.stampLabel.clear();
-        QTest::newRow("a stamp without size keeps its tail") << stamp << QRectF(0, 0, 1.5, 0);
+        test::row("a stamp without size keeps its tail", stamp, QRectF(0, 0, 1.5, 0));
     }
 
     void boundsEachKind()
@@ -110,19 +105,17 @@ private Q_SLOTS:
 
     void isHitWhereItIsSeen_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<QPointF>("hit");
-        QTest::addColumn<QPointF>("miss");
+        test::columns<Annotation, QPointF, QPointF>("mark", "hit", "miss");
         Annotation line(AnnotationKind::Line, { 0, 0 }, { 100, 0 });
-        QTest::newRow("a line reaches its width and 6") << line << QPointF(50, 10) << QPointF(50, 10.1);
+        test::row("a line reaches its width and 6", line, QPointF(50, 10), QPointF(50, 10.1));
         line.lineWidth = 0;
-        QTest::newRow("and at least 8") << line << QPointF(108, 0) << QPointF(108.1, 0);
+        test::row("and at least 8", line, QPointF(108, 0), QPointF(108.1, 0));
         Annotation curve(AnnotationKind::Arrow, { 0, 0 }, { 100, 0 });
-        QTest::newRow("a straight arrow is a line") << curve << QPointF(50, 0) << QPointF(50, -22);
+        test::row("a straight arrow is a line", curve, QPointF(50, 0), QPointF(50, -22));
         curve.curved = true;
-        QTest::newRow("a curve is hit along its bend") << curve << QPointF(50, -30) << QPointF(50, 0);
+        test::row("a curve is hit along its bend", curve, QPointF(50, -30), QPointF(50, 0));
         const Annotation box(AnnotationKind::Rectangle, { 100, 100 }, { 60, 70 });
-        QTest::newRow("a box and 6 around it") << box << QPointF(54.5, 64.5) << QPointF(53.5, 80);
+        test::row("a box and 6 around it", box, QPointF(54.5, 64.5), QPointF(53.5, 80));
     }
 
     void isHitWhereItIsSeen()
@@ -151,8 +144,8 @@ private Q_SLOTS:
 
     void readsOneMark_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("message"); // empty when it can be read
+        // message: empty when it can be read
+        test::columns<QByteArray, QString>("json", "message");
         const auto row = [](const char *name, const QByteArray &rest, const char *message = "") {
             QTest::newRow(name) << QByteArray("{" + QByteArray(minimal) + "," + rest + "}")
                                 << QString::fromUtf8(message);

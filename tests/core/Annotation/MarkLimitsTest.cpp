@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Annotation/MarkLimits.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -16,22 +16,16 @@ class MarkLimitsTest : public QObject {
 private Q_SLOTS:
     void bringsStyleIntoRange_data()
     {
-        QTest::addColumn<double Annotation::*>("member");
-        QTest::addColumn<double>("stored");
-        QTest::addColumn<double>("drawn");
-        QTest::addColumn<QString>("problem");
+        test::columns<double Annotation::*, double, double, QString>("member", "stored", "drawn", "problem");
         const auto none = QString();
-        QTest::newRow("opacity 7") << &Annotation::highlightOpacity << 7.0 << 1.0
-                                   << QStringLiteral("its highlightOpacity is 7");
-        QTest::newRow("opacity 1") << &Annotation::highlightOpacity << 1.0 << 1.0 << none;
-        QTest::newRow("negative width") << &Annotation::lineWidth << -3.0 << 0.0
-                                        << QStringLiteral("its lineWidth is -3");
-        QTest::newRow("endless width") << &Annotation::lineWidth << 1e300 << 1e4
-                                       << QStringLiteral("its lineWidth is 1e+300");
-        QTest::newRow("no font size") << &Annotation::fontSize << 0.0 << 0.1 << QStringLiteral("its fontSize is 0");
-        QTest::newRow("dim by NaN") << &Annotation::spotDim << qQNaN() << 0.5 << QStringLiteral("its spotDim is nan");
-        QTest::newRow("infinite zoom") << &Annotation::magnification << qInf() << 100.0
-                                       << QStringLiteral("its magnification is inf");
+        test::row("opacity 7", &Annotation::highlightOpacity, 7.0, 1.0, QStringLiteral("its highlightOpacity is 7"));
+        test::row("opacity 1", &Annotation::highlightOpacity, 1.0, 1.0, none);
+        test::row("negative width", &Annotation::lineWidth, -3.0, 0.0, QStringLiteral("its lineWidth is -3"));
+        test::row("endless width", &Annotation::lineWidth, 1e300, 1e4, QStringLiteral("its lineWidth is 1e+300"));
+        test::row("no font size", &Annotation::fontSize, 0.0, 0.1, QStringLiteral("its fontSize is 0"));
+        test::row("dim by NaN", &Annotation::spotDim, qQNaN(), 0.5, QStringLiteral("its spotDim is nan"));
+        test::row(
+            "infinite zoom", &Annotation::magnification, qInf(), 100.0, QStringLiteral("its magnification is inf"));
     }
 
     void bringsStyleIntoRange()
@@ -50,11 +44,10 @@ private Q_SLOTS:
 
     void drawsNothingOutOfReach_data()
     {
-        QTest::addColumn<QPointF>("corner");
-        QTest::addColumn<QString>("problem");
-        QTest::newRow("too far") << QPointF(1e300, 5) << QStringLiteral("its p2 lies at (1e+300, 5)");
-        QTest::newRow("not a number") << QPointF(1, qQNaN()) << QStringLiteral("its p2 lies at (1, nan)");
-        QTest::newRow("just too far") << QPointF(0, -1000001) << QStringLiteral("its p2 lies at (0, -1e+06)");
+        test::columns<QPointF, QString>("corner", "problem");
+        test::row("too far", QPointF(1e300, 5), QStringLiteral("its p2 lies at (1e+300, 5)"));
+        test::row("not a number", QPointF(1, qQNaN()), QStringLiteral("its p2 lies at (1, nan)"));
+        test::row("just too far", QPointF(0, -1000001), QStringLiteral("its p2 lies at (0, -1e+06)"));
     }
 
     void drawsNothingOutOfReach()

@@ -2,10 +2,10 @@
 #include "core/Annotation/SavedStyles.h"
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 
 #include <QJsonDocument>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -40,15 +40,13 @@ private Q_SLOTS:
 
     void nameOrPresetIsShown_data()
     {
-        QTest::addColumn<std::optional<QString>>("name");
-        QTest::addColumn<std::optional<QString>>("preset");
-        QTest::addColumn<QString>("shown");
+        test::columns<std::optional<QString>, std::optional<QString>, QString>("name", "preset", "shown");
         using Text = std::optional<QString>;
-        QTest::newRow("own") << Text("Mine") << Text() << "Mine";
-        QTest::newRow("renamed preset") << Text("Mine") << Text("title") << "Mine";
-        QTest::newRow("empty name") << Text("") << Text("title") << "Title";
-        QTest::newRow("preset of another version") << Text() << Text("neon") << "";
-        QTest::newRow("neither") << Text() << Text() << "";
+        test::row("own", Text("Mine"), Text(), "Mine");
+        test::row("renamed preset", Text("Mine"), Text("title"), "Mine");
+        test::row("empty name", Text(""), Text("title"), "Title");
+        test::row("preset of another version", Text(), Text("neon"), "");
+        test::row("neither", Text(), Text(), "");
     }
 
     void nameOrPresetIsShown()
@@ -89,8 +87,7 @@ private Q_SLOTS:
 
     void readsWhatItCan_data()
     {
-        QTest::addColumn<QByteArray>("stored");
-        QTest::addColumn<QStringList>("shown");
+        test::columns<QByteArray, QStringList>("stored", "shown");
         const QStringList presets = [] {
             Settings settings { QString() };
             return names(SavedStyles(settings).all());
@@ -99,11 +96,11 @@ private Q_SLOTS:
             R"({"id":"7b0d2f1e-6f43-4f4e-9f43-0d2f1e6f434f","category":"text","name":"A","future":[1]})");
         const QByteArray list = "{\"version\":1,\"styles\":[" + good + ",7,{\"id\":3},{},"
             + QByteArray(good).replace("text", "song") + "," + QByteArray(good).replace("\"A\"", "\"B\"") + "]}";
-        QTest::newRow("bad elements") << list << QStringList({ "A", "B" });
-        QTest::newRow("all deleted") << QByteArray("{\"version\":1,\"styles\":[]}") << QStringList();
-        QTest::newRow("no JSON") << QByteArray("nonsense") << presets;
-        QTest::newRow("no list") << QByteArray("{\"styles\":{}}") << presets;
-        QTest::newRow("a list alone") << QByteArray("[" + good + "]") << presets;
+        test::row("bad elements", list, QStringList({ "A", "B" }));
+        test::row("all deleted", QByteArray("{\"version\":1,\"styles\":[]}"), QStringList());
+        test::row("no JSON", QByteArray("nonsense"), presets);
+        test::row("no list", QByteArray("{\"styles\":{}}"), presets);
+        test::row("a list alone", QByteArray("[" + good + "]"), presets);
     }
 
     void readsWhatItCan()
@@ -131,12 +128,11 @@ private Q_SLOTS:
 
     void applyingRestylesTheSelectionAsOneStep_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<bool>("changes");
-        QTest::newRow("arrow") << AnnotationKind::Arrow << true;
-        QTest::newRow("line: colour and width") << AnnotationKind::Line << true;
-        QTest::newRow("text: colour only") << AnnotationKind::Text << true;
-        QTest::newRow("nothing in common") << AnnotationKind::Spotlight << false;
+        test::columns<AnnotationKind, bool>("kind", "changes");
+        test::row("arrow", AnnotationKind::Arrow, true);
+        test::row("line: colour and width", AnnotationKind::Line, true);
+        test::row("text: colour only", AnnotationKind::Text, true);
+        test::row("nothing in common", AnnotationKind::Spotlight, false);
     }
 
     void applyingRestylesTheSelectionAsOneStep()

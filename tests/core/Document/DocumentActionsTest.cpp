@@ -6,9 +6,9 @@
 #include "core/Document/TessalyDocument.h"
 #include "core/Preferences/Settings.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/Rows.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -87,15 +87,12 @@ private Q_SLOTS:
 
     void anExportCountsAsSavedWhereNoDocumentHoldsTheCapture_data()
     {
-        QTest::addColumn<bool>("hasDocument");
-        QTest::addColumn<bool>("companion");
-        QTest::addColumn<bool>("companionIsIt");
-        QTest::addColumn<bool>("unsaved");
-        QTest::newRow("image alone") << false << false << false << false;
-        QTest::newRow("image and companion") << false << true << false << false;
-        QTest::newRow("image of a document") << true << false << false << true;
-        QTest::newRow("image beside another document") << true << true << false << true;
-        QTest::newRow("image beside its document") << true << true << true << false;
+        test::columns<bool, bool, bool, bool>("hasDocument", "companion", "companionIsIt", "unsaved");
+        test::row("image alone", false, false, false, false);
+        test::row("image and companion", false, true, false, false);
+        test::row("image of a document", true, false, false, true);
+        test::row("image beside another document", true, true, false, true);
+        test::row("image beside its document", true, true, true, false);
     }
 
     void anExportCountsAsSavedWhereNoDocumentHoldsTheCapture()
@@ -156,24 +153,15 @@ private Q_SLOTS:
 
     void aFailedSaveLosesNothing_data()
     {
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("folder gone") << "gone/a.tessaly"
-                                     << "Couldn't save the document";
-        QTest::newRow("a folder of other things") << "photos.tessaly"
-                                                  << "Couldn't save the document";
-        QTest::newRow("a file of that name") << "file.tessaly"
-                                             << "Couldn't save the document";
-        QTest::newRow("image: folder gone") << "gone/a.png"
-                                            << "Couldn't save the image";
-        QTest::newRow("image: full disk") << "/dev/full"
-                                          << "Couldn't save the image";
-        QTest::newRow("image: nothing can be made there") << "/proc/a.png"
-                                                          << "Couldn't save the image";
-        QTest::newRow("cancelled") << "a.tessaly"
-                                   << "";
-        QTest::newRow("image: cancelled") << "a.png"
-                                          << "";
+        test::columns<QString, QString>("target", "message");
+        test::row("folder gone", "gone/a.tessaly", "Couldn't save the document");
+        test::row("a folder of other things", "photos.tessaly", "Couldn't save the document");
+        test::row("a file of that name", "file.tessaly", "Couldn't save the document");
+        test::row("image: folder gone", "gone/a.png", "Couldn't save the image");
+        test::row("image: full disk", "/dev/full", "Couldn't save the image");
+        test::row("image: nothing can be made there", "/proc/a.png", "Couldn't save the image");
+        test::row("cancelled", "a.tessaly", "");
+        test::row("image: cancelled", "a.png", "");
     }
 
     void aFailedSaveLosesNothing()

@@ -2,12 +2,12 @@
 #include "core/Document/TessalyDocument.h"
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestFiles.h"
 
 #include <QColorSpace>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -59,13 +59,12 @@ class TessalyDocumentTest : public QObject {
 private Q_SLOTS:
     void thumbnailsAreAtMost1024PixelsLong_data()
     {
-        QTest::addColumn<QSize>("pixels");
-        QTest::addColumn<QSize>("thumbnail");
-        QTest::newRow("wide") << QSize(3000, 1000) << QSize(1024, 341);
-        QTest::newRow("small ones stay") << QSize(500, 300) << QSize(500, 300);
-        QTest::newRow("a line keeps one pixel") << QSize(5000, 1) << QSize(1024, 1);
-        QTest::newRow("a half rounds up") << QSize(2048, 1001) << QSize(1024, 501);
-        QTest::newRow("tall") << QSize(10, 4096) << QSize(3, 1024);
+        test::columns<QSize, QSize>("pixels", "thumbnail");
+        test::row("wide", QSize(3000, 1000), QSize(1024, 341));
+        test::row("small ones stay", QSize(500, 300), QSize(500, 300));
+        test::row("a line keeps one pixel", QSize(5000, 1), QSize(1024, 1));
+        test::row("a half rounds up", QSize(2048, 1001), QSize(1024, 501));
+        test::row("tall", QSize(10, 4096), QSize(3, 1024));
     }
 
     void thumbnailsAreAtMost1024PixelsLong()
@@ -113,8 +112,7 @@ private Q_SLOTS:
     void packagesThatCannotBeRead_data()
     {
         using Spoil = std::function<void(const QString &)>;
-        QTest::addColumn<Spoil>("spoil");
-        QTest::addColumn<QString>("detail");
+        test::columns<Spoil, QString>("spoil", "detail");
         const auto row = [](const char *name, const char *detail, Spoil spoil) {
             QTest::newRow(name) << spoil << QString(detail);
         };
@@ -165,9 +163,8 @@ private Q_SLOTS:
 
     void versions_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<int>("version"); // 0: damaged
-        QTest::addColumn<bool>("opens");
+        // version: 0: damaged
+        test::columns<QByteArray, int, bool>("json", "version", "opens");
         QTest::newRow("none is 1") << QByteArray(R"({"canvasSize":[20,10]})") << 1 << true;
         QTest::newRow("newer but readable") << QByteArray(R"({"version":7,"canvasSize":[20,10]})") << 7 << true;
         QTest::newRow("newer") << QByteArray(R"({"version":7,"canvasSize":{"w":20}})") << 7 << false;
@@ -176,7 +173,7 @@ private Q_SLOTS:
         QTest::newRow("half a version") << QByteArray(R"({"version":7.5,"canvasSize":[20,10]})") << 0 << false;
         QTest::newRow("a version beyond numbers") << QByteArray(R"({"version":1e30})") << 0 << false;
         QTest::newRow("a version in text") << QByteArray(R"({"version":"7"})") << 0 << false;
-        QTest::newRow("no JSON") << QByteArray("version: 7") << 0 << false;
+        test::row("no JSON", QByteArray("version: 7"), 0, false);
     }
 
     void versions()
@@ -199,16 +196,16 @@ private Q_SLOTS:
 
     void pointSizeIsTheCanvasWhereThatMakesSense_data()
     {
-        QTest::addColumn<QByteArray>("canvas");
-        QTest::addColumn<QSizeF>("points"); // of 40 × 20 pixels
-        QTest::newRow("two pixels a point") << QByteArray("[20,10]") << QSizeF(20, 10);
-        QTest::newRow("larger than the pixels") << QByteArray("[80,40]") << QSizeF(80, 40);
-        QTest::newRow("nothing") << QByteArray("[0,0]") << QSizeF(40, 20);
-        QTest::newRow("one side only") << QByteArray("[20,0]") << QSizeF(40, 20);
-        QTest::newRow("negative") << QByteArray("[-20,-10]") << QSizeF(40, 20);
-        QTest::newRow("beyond drawing") << QByteArray("[1e300,1e300]") << QSizeF(40, 20);
-        QTest::newRow("a speck") << QByteArray("[1e-300,1e-300]") << QSizeF(40, 20);
-        QTest::newRow("a strip") << QByteArray("[20,1e7]") << QSizeF(40, 20);
+        // points: of 40 × 20 pixels
+        test::columns<QByteArray, QSizeF>("canvas", "points");
+        test::row("two pixels a point", QByteArray("[20,10]"), QSizeF(20, 10));
+        test::row("larger than the pixels", QByteArray("[80,40]"), QSizeF(80, 40));
+        test::row("nothing", QByteArray("[0,0]"), QSizeF(40, 20));
+        test::row("one side only", QByteArray("[20,0]"), QSizeF(40, 20));
+        test::row("negative", QByteArray("[-20,-10]"), QSizeF(40, 20));
+        test::row("beyond drawing", QByteArray("[1e300,1e300]"), QSizeF(40, 20));
+        test::row("a speck", QByteArray("[1e-300,1e-300]"), QSizeF(40, 20));
+        test::row("a strip", QByteArray("[20,1e7]"), QSizeF(40, 20));
     }
 
     void pointSizeIsTheCanvasWhereThatMakesSense()

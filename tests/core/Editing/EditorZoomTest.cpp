@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Editing/EditorZoom.h"
+#include "tests/support/Rows.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -13,14 +13,12 @@ class EditorZoomTest : public QObject {
 private Q_SLOTS:
     void stepsKeepWithinTheLimits_data()
     {
-        QTest::addColumn<double>("from");
-        QTest::addColumn<double>("zoomedIn");
-        QTest::addColumn<double>("zoomedOut");
-        QTest::newRow("100 %") << 1.0 << 1.25 << 0.8;
-        QTest::newRow("near the top") << 3.5 << 4.0 << 2.8;
-        QTest::newRow("at the top") << 4.0 << 4.0 << 3.2;
-        QTest::newRow("near the bottom") << 0.3 << 0.375 << 0.25;
-        QTest::newRow("below the bottom, after a fit") << 0.1 << 0.125 << 0.25;
+        test::columns<double, double, double>("from", "zoomedIn", "zoomedOut");
+        test::row("100 %", 1.0, 1.25, 0.8);
+        test::row("near the top", 3.5, 4.0, 2.8);
+        test::row("at the top", 4.0, 4.0, 3.2);
+        test::row("near the bottom", 0.3, 0.375, 0.25);
+        test::row("below the bottom, after a fit", 0.1, 0.125, 0.25);
     }
     void stepsKeepWithinTheLimits()
     {
@@ -36,16 +34,15 @@ private Q_SLOTS:
 
     void fitsTheWholePicture_data()
     {
-        QTest::addColumn<QSizeF>("viewport");
-        QTest::addColumn<QSizeF>("picture");
-        QTest::addColumn<double>("scale"); // from 2
-        QTest::newRow("wide") << QSizeF(848, 648) << QSizeF(1600, 400) << 0.5;
-        QTest::newRow("high") << QSizeF(848, 648) << QSizeF(400, 1200) << 0.5;
-        QTest::newRow("huge") << QSizeF(848, 648) << QSizeF(10000, 10000) << 0.1;
-        QTest::newRow("tiny") << QSizeF(848, 648) << QSizeF(10, 10) << 4.0;
-        QTest::newRow("less room than air") << QSizeF(20, 20) << QSizeF(2, 2) << 0.5;
-        QTest::newRow("no picture") << QSizeF(848, 648) << QSizeF(0, 10) << 2.0;
-        QTest::newRow("no room yet") << QSizeF() << QSizeF(100, 100) << 2.0;
+        // scale: from 2
+        test::columns<QSizeF, QSizeF, double>("viewport", "picture", "scale");
+        test::row("wide", QSizeF(848, 648), QSizeF(1600, 400), 0.5);
+        test::row("high", QSizeF(848, 648), QSizeF(400, 1200), 0.5);
+        test::row("huge", QSizeF(848, 648), QSizeF(10000, 10000), 0.1);
+        test::row("tiny", QSizeF(848, 648), QSizeF(10, 10), 4.0);
+        test::row("less room than air", QSizeF(20, 20), QSizeF(2, 2), 0.5);
+        test::row("no picture", QSizeF(848, 648), QSizeF(0, 10), 2.0);
+        test::row("no room yet", QSizeF(), QSizeF(100, 100), 2.0);
     }
     void fitsTheWholePicture()
     {

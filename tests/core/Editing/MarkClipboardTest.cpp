@@ -5,11 +5,11 @@
 #include "core/Preferences/Settings.h"
 #include "tests/support/DrawnMarks.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QUrl>
 
 using namespace tessaly;
@@ -91,10 +91,9 @@ private Q_SLOTS:
 
     void pastedBesideAndInSight_data()
     {
-        QTest::addColumn<QPointF>("at");
-        QTest::addColumn<QPointF>("first");
-        QTest::newRow("at +10, +10") << QPointF(20, 20) << QPointF(30, 30);
-        QTest::newRow("outside of a smaller capture: its middle") << QPointF(350, 250) << QPointF(80, 40);
+        test::columns<QPointF, QPointF>("at", "first");
+        test::row("at +10, +10", QPointF(20, 20), QPointF(30, 30));
+        test::row("outside of a smaller capture: its middle", QPointF(350, 250), QPointF(80, 40));
     }
     void pastedBesideAndInSight()
     {
@@ -142,14 +141,12 @@ private Q_SLOTS:
 
     void picturesFromElsewhere_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QSizeF>("size"); ///< on the capture of 200 by 100
-        QTest::addColumn<bool>("keepsBytes");
-        QTest::newRow("small PNG") << "image/png" << file("PNG", { 60, 20 }) << QSizeF(60, 20) << true;
-        QTest::newRow("wide JPEG") << "image/jpeg" << file("JPG", { 800, 100 }) << QSizeF(160, 20) << true;
-        QTest::newRow("tall PNG") << "image/png" << file("PNG", { 40, 400 }) << QSizeF(8, 80) << true;
-        QTest::newRow("BMP becomes PNG") << "image/bmp" << file("BMP", { 30, 30 }) << QSizeF(30, 30) << false;
+        // size: on the capture of 200 by 100
+        test::columns<QString, QByteArray, QSizeF, bool>("type", "bytes", "size", "keepsBytes");
+        test::row("small PNG", "image/png", file("PNG", { 60, 20 }), QSizeF(60, 20), true);
+        test::row("wide JPEG", "image/jpeg", file("JPG", { 800, 100 }), QSizeF(160, 20), true);
+        test::row("tall PNG", "image/png", file("PNG", { 40, 400 }), QSizeF(8, 80), true);
+        test::row("BMP becomes PNG", "image/bmp", file("BMP", { 30, 30 }), QSizeF(30, 30), false);
     }
     void picturesFromElsewhere()
     {
@@ -197,16 +194,14 @@ private Q_SLOTS:
 
     void whatCannotBePastedSaysSoAndChangesNothing_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QByteArray>("bytes");
+        test::columns<QString, QByteArray>("type", "bytes");
         const QString marks = QLatin1StringView(MarkClipboard::mimeType);
-        QTest::newRow("cut short") << marks << QByteArray("{\"version\": 1, \"annotations\": [");
-        QTest::newRow("no marks") << marks
-                                  << QByteArray("{\"version\": 1, \"canvasSize\": [1, 1], \"annotations\": []}");
-        QTest::newRow("no bytes") << marks << QByteArray();
-        QTest::newRow("damaged picture") << "image/png" << file("PNG", { 30, 30 }).left(60);
-        QTest::newRow("blank text") << "text/plain" << QByteArray(" \n");
-        QTest::newRow("something else") << "application/x-other" << QByteArray("x");
+        test::row("cut short", marks, QByteArray("{\"version\": 1, \"annotations\": ["));
+        test::row("no marks", marks, QByteArray("{\"version\": 1, \"canvasSize\": [1, 1], \"annotations\": []}"));
+        test::row("no bytes", marks, QByteArray());
+        test::row("damaged picture", "image/png", file("PNG", { 30, 30 }).left(60));
+        test::row("blank text", "text/plain", QByteArray(" \n"));
+        test::row("something else", "application/x-other", QByteArray("x"));
     }
     void whatCannotBePastedSaysSoAndChangesNothing()
     {

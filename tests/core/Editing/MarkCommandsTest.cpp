@@ -4,8 +4,7 @@
 #include "core/Annotation/AnnotationStore.h"
 #include "core/Preferences/Settings.h"
 #include "tests/support/DrawnMarks.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -78,15 +77,13 @@ private Q_SLOTS:
 
     void reorderMovesTheMark_data()
     {
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<int>("order");
-        QTest::addColumn<QString>("marks");
-        QTest::newRow("forward") << 0 << int(Order::Forward) << "BAC";
-        QTest::newRow("backward") << 2 << int(Order::Backward) << "ACB";
-        QTest::newRow("to the front") << 0 << int(Order::ToFront) << "BCA";
-        QTest::newRow("to the back") << 2 << int(Order::ToBack) << "CAB";
-        QTest::newRow("forward at the front: no step") << 2 << int(Order::Forward) << "ABC";
-        QTest::newRow("to the back at the back: no step") << 0 << int(Order::ToBack) << "ABC";
+        test::columns<int, int, QString>("selected", "order", "marks");
+        test::row("forward", 0, int(Order::Forward), "BAC");
+        test::row("backward", 2, int(Order::Backward), "ACB");
+        test::row("to the front", 0, int(Order::ToFront), "BCA");
+        test::row("to the back", 2, int(Order::ToBack), "CAB");
+        test::row("forward at the front: no step", 2, int(Order::Forward), "ABC");
+        test::row("to the back at the back: no step", 0, int(Order::ToBack), "ABC");
     }
     void reorderMovesTheMark()
     {
@@ -149,14 +146,11 @@ private Q_SLOTS:
 
     void digitsColourTheMarkAndTheTool_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("color");
-        QTest::addColumn<bool>("changesMark");
-        QTest::newRow("first") << AnnotationKind::Arrow << 2 << "#FF9500" << true;
-        QTest::newRow("last") << AnnotationKind::Text << 9 << "#1D1D1F" << true;
-        QTest::newRow("a loupe has no colour") << AnnotationKind::Magnifier << 5 << "#2E7DF6" << false;
-        QTest::newRow("the colour that it has") << AnnotationKind::Pen << 1 << "#FF3366" << false;
+        test::columns<AnnotationKind, int, QString, bool>("kind", "number", "color", "changesMark");
+        test::row("first", AnnotationKind::Arrow, 2, "#FF9500", true);
+        test::row("last", AnnotationKind::Text, 9, "#1D1D1F", true);
+        test::row("a loupe has no colour", AnnotationKind::Magnifier, 5, "#2E7DF6", false);
+        test::row("the colour that it has", AnnotationKind::Pen, 1, "#FF3366", false);
     }
     void digitsColourTheMarkAndTheTool()
     {

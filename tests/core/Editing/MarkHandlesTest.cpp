@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Editing/MarkHandles.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -20,22 +19,19 @@ class MarkHandlesTest : public QObject {
 private Q_SLOTS:
     void everyKindHasItsHandles_data()
     {
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QSizeF>("size");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("count");
+        test::columns<Kind, QSizeF, double, int>("kind", "size", "scale", "count");
         const QSizeF large(100, 60), flat(100, 10);
-        QTest::newRow("box") << Kind::Rectangle << large << 1.0 << 8;
-        QTest::newRow("text") << Kind::Text << large << 1.0 << 4;
-        QTest::newRow("line") << Kind::Line << large << 1.0 << 2;
-        QTest::newRow("arrow") << Kind::Arrow << large << 1.0 << 3;
-        QTest::newRow("stamp with its tail") << Kind::Stamp << large << 1.0 << 9;
-        QTest::newRow("pen") << Kind::Pen << large << 1.0 << 8;
-        QTest::newRow("a dot of the pen") << Kind::Pen << QSizeF(0, 0) << 1.0 << 0;
-        QTest::newRow("flat box") << Kind::Highlight << flat << 1.0 << 4;
-        QTest::newRow("flat box, zoomed in") << Kind::Highlight << flat << 3.0 << 8;
-        QTest::newRow("box, zoomed out") << Kind::Highlight << large << 0.25 << 4;
-        QTest::newRow("short arrow") << Kind::Arrow << QSizeF(12, 9) << 1.0 << 2;
+        test::row("box", Kind::Rectangle, large, 1.0, 8);
+        test::row("text", Kind::Text, large, 1.0, 4);
+        test::row("line", Kind::Line, large, 1.0, 2);
+        test::row("arrow", Kind::Arrow, large, 1.0, 3);
+        test::row("stamp with its tail", Kind::Stamp, large, 1.0, 9);
+        test::row("pen", Kind::Pen, large, 1.0, 8);
+        test::row("a dot of the pen", Kind::Pen, QSizeF(0, 0), 1.0, 0);
+        test::row("flat box", Kind::Highlight, flat, 1.0, 4);
+        test::row("flat box, zoomed in", Kind::Highlight, flat, 3.0, 8);
+        test::row("box, zoomed out", Kind::Highlight, large, 0.25, 4);
+        test::row("short arrow", Kind::Arrow, QSizeF(12, 9), 1.0, 2);
     }
     void everyKindHasItsHandles()
     {
@@ -59,15 +55,13 @@ private Q_SLOTS:
 
     void theNearestHandleWithinReachIsGrabbed_data()
     {
-        QTest::addColumn<QPointF>("view");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<std::optional<HandleRole>>("role");
+        test::columns<QPointF, double, std::optional<HandleRole>>("view", "scale", "role");
         const std::optional<HandleRole> none;
-        QTest::newRow("on it") << QPointF(100, 100) << 1.0 << std::optional(HandleRole::TopLeft);
-        QTest::newRow("at the reach") << QPointF(93, 107) << 1.0 << std::optional(HandleRole::TopLeft);
-        QTest::newRow("beyond it") << QPointF(92, 100) << 1.0 << none;
-        QTest::newRow("with a finger") << QPointF(89, 100) << 1.7 << std::optional(HandleRole::TopLeft);
-        QTest::newRow("the nearer of two") << QPointF(109, 100) << 1.7 << std::optional(HandleRole::Top);
+        test::row("on it", QPointF(100, 100), 1.0, std::optional(HandleRole::TopLeft));
+        test::row("at the reach", QPointF(93, 107), 1.0, std::optional(HandleRole::TopLeft));
+        test::row("beyond it", QPointF(92, 100), 1.0, none);
+        test::row("with a finger", QPointF(89, 100), 1.7, std::optional(HandleRole::TopLeft));
+        test::row("the nearer of two", QPointF(109, 100), 1.7, std::optional(HandleRole::Top));
     }
     void theNearestHandleWithinReachIsGrabbed()
     {
@@ -81,17 +75,15 @@ private Q_SLOTS:
 
     void theCursorTurnsWithTheHandle_data()
     {
-        QTest::addColumn<HandleRole>("role");
-        QTest::addColumn<QSizeF>("proportions");
-        QTest::addColumn<double>("angle");
-        QTest::newRow("right") << HandleRole::Right << QSizeF() << 0.0;
-        QTest::newRow("left") << HandleRole::Left << QSizeF() << 0.0;
-        QTest::newRow("top") << HandleRole::Top << QSizeF() << 90.0;
-        QTest::newRow("top left") << HandleRole::TopLeft << QSizeF() << 45.0;
-        QTest::newRow("top right") << HandleRole::TopRight << QSizeF() << 135.0;
-        QTest::newRow("along the diagonal") << HandleRole::BottomRight << QSizeF(40, 30) << 36.87;
-        QTest::newRow("along the other") << HandleRole::BottomLeft << QSizeF(40, 30) << 143.13;
-        QTest::newRow("a side has no diagonal") << HandleRole::Bottom << QSizeF(40, 30) << 90.0;
+        test::columns<HandleRole, QSizeF, double>("role", "proportions", "angle");
+        test::row("right", HandleRole::Right, QSizeF(), 0.0);
+        test::row("left", HandleRole::Left, QSizeF(), 0.0);
+        test::row("top", HandleRole::Top, QSizeF(), 90.0);
+        test::row("top left", HandleRole::TopLeft, QSizeF(), 45.0);
+        test::row("top right", HandleRole::TopRight, QSizeF(), 135.0);
+        test::row("along the diagonal", HandleRole::BottomRight, QSizeF(40, 30), 36.87);
+        test::row("along the other", HandleRole::BottomLeft, QSizeF(40, 30), 143.13);
+        test::row("a side has no diagonal", HandleRole::Bottom, QSizeF(40, 30), 90.0);
     }
     void theCursorTurnsWithTheHandle()
     {

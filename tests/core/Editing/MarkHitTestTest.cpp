@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Editing/MarkHitTest.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -25,9 +24,7 @@ class MarkHitTestTest : public QObject {
 private Q_SLOTS:
     void distanceFromTheVisiblePart_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<double>("distance");
+        test::columns<Annotation, QPointF, double>("mark", "point", "distance");
         const auto fill = [](Annotation &mark) { mark.filled = true; };
         const auto bend = [](Annotation &mark) { mark.curved = true; };
         const auto label = [](Annotation &mark) { mark.stampLabel = QStringLiteral("Label"); };
@@ -37,31 +34,31 @@ private Q_SLOTS:
         const auto path = [](Annotation &mark) { mark.points = { { 100, 100 }, { 150, 100 }, { 150, 160 } }; };
         const QPointF middle(150, 130), corner(102, 102);
 
-        QTest::newRow("rectangle, on its edge") << sample(Kind::Rectangle) << QPointF(101, 130) << 0.0;
-        QTest::newRow("rectangle, inside") << sample(Kind::Rectangle) << middle << 28.0;
-        QTest::newRow("rectangle, outside") << sample(Kind::Rectangle) << QPointF(210, 130) << 8.0;
-        QTest::newRow("filled rectangle, inside") << sample(Kind::Rectangle, fill) << middle << 0.0;
-        QTest::newRow("ellipse, inside") << sample(Kind::Ellipse) << middle << 28.0;
-        QTest::newRow("ellipse, on its line") << sample(Kind::Ellipse) << QPointF(200, 130) << 0.0;
-        QTest::newRow("filled ellipse, at its box's corner") << sample(Kind::Ellipse, fill) << corner << 12.8;
-        QTest::newRow("line, beside it") << sample(Kind::Line) << QPointF(150, 150) << 15.15;
-        QTest::newRow("arrow, in its head") << sample(Kind::Arrow) << QPointF(188, 146) << 0.0;
-        QTest::newRow("curved arrow, at its chord") << sample(Kind::Arrow, bend) << middle << 23.66;
-        QTest::newRow("curved arrow, on its bend") << sample(Kind::Arrow, bend) << QPointF(163, 108) << 0.0;
-        QTest::newRow("pen, on its path") << sample(Kind::Pen, path) << QPointF(150, 130) << 0.0;
-        QTest::newRow("pen, inside its box") << sample(Kind::Pen, path) << QPointF(120, 130) << 28.0;
-        QTest::newRow("pen without points") << sample(Kind::Pen) << middle << std::numeric_limits<double>::infinity();
-        QTest::newRow("highlight, inside") << sample(Kind::Highlight) << middle << 0.0;
-        QTest::newRow("obscured area, inside") << sample(Kind::Pixelate) << middle << 0.0;
-        QTest::newRow("image, beside it") << sample(Kind::ImageOverlay) << QPointF(95, 130) << 5.0;
-        QTest::newRow("round loupe, corner") << sample(Kind::Magnifier) << corner << 12.8;
-        QTest::newRow("square loupe, corner") << sample(Kind::Magnifier, square) << corner << 0.0;
-        QTest::newRow("oval spotlight, corner") << sample(Kind::Spotlight) << corner << 12.8;
-        QTest::newRow("square spotlight, corner") << sample(Kind::Spotlight, square) << corner << 0.0;
-        QTest::newRow("stamp, corner") << sample(Kind::Stamp) << corner << 0.0;
-        QTest::newRow("stamp on a disc, corner") << sample(Kind::Stamp, disc) << corner << 12.8;
-        QTest::newRow("stamp, on its label") << sample(Kind::Stamp, label) << QPointF(230, 130) << 0.0;
-        QTest::newRow("stamp, on its tail") << sample(Kind::Stamp, tail) << QPointF(215, 130) << 0.0;
+        test::row("rectangle, on its edge", sample(Kind::Rectangle), QPointF(101, 130), 0.0);
+        test::row("rectangle, inside", sample(Kind::Rectangle), middle, 28.0);
+        test::row("rectangle, outside", sample(Kind::Rectangle), QPointF(210, 130), 8.0);
+        test::row("filled rectangle, inside", sample(Kind::Rectangle, fill), middle, 0.0);
+        test::row("ellipse, inside", sample(Kind::Ellipse), middle, 28.0);
+        test::row("ellipse, on its line", sample(Kind::Ellipse), QPointF(200, 130), 0.0);
+        test::row("filled ellipse, at its box's corner", sample(Kind::Ellipse, fill), corner, 12.8);
+        test::row("line, beside it", sample(Kind::Line), QPointF(150, 150), 15.15);
+        test::row("arrow, in its head", sample(Kind::Arrow), QPointF(188, 146), 0.0);
+        test::row("curved arrow, at its chord", sample(Kind::Arrow, bend), middle, 23.66);
+        test::row("curved arrow, on its bend", sample(Kind::Arrow, bend), QPointF(163, 108), 0.0);
+        test::row("pen, on its path", sample(Kind::Pen, path), QPointF(150, 130), 0.0);
+        test::row("pen, inside its box", sample(Kind::Pen, path), QPointF(120, 130), 28.0);
+        test::row("pen without points", sample(Kind::Pen), middle, std::numeric_limits<double>::infinity());
+        test::row("highlight, inside", sample(Kind::Highlight), middle, 0.0);
+        test::row("obscured area, inside", sample(Kind::Pixelate), middle, 0.0);
+        test::row("image, beside it", sample(Kind::ImageOverlay), QPointF(95, 130), 5.0);
+        test::row("round loupe, corner", sample(Kind::Magnifier), corner, 12.8);
+        test::row("square loupe, corner", sample(Kind::Magnifier, square), corner, 0.0);
+        test::row("oval spotlight, corner", sample(Kind::Spotlight), corner, 12.8);
+        test::row("square spotlight, corner", sample(Kind::Spotlight, square), corner, 0.0);
+        test::row("stamp, corner", sample(Kind::Stamp), corner, 0.0);
+        test::row("stamp on a disc, corner", sample(Kind::Stamp, disc), corner, 12.8);
+        test::row("stamp, on its label", sample(Kind::Stamp, label), QPointF(230, 130), 0.0);
+        test::row("stamp, on its tail", sample(Kind::Stamp, tail), QPointF(215, 130), 0.0);
     }
     void distanceFromTheVisiblePart()
     {
@@ -86,20 +83,18 @@ private Q_SLOTS:
 
     void whichOfSeveralIsMeant_data()
     {
-        QTest::addColumn<QList<Annotation>>("marks"); // from the bottom
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<int>("topmost");
-        QTest::addColumn<int>("below"); // the selected one, or the top-most when none is
+        // marks: from the bottom; below: the selected one, or the top-most when none is
+        test::columns<QList<Annotation>, int, int, int>("marks", "selected", "topmost", "below");
         const Annotation box = sample(Kind::Rectangle), area = sample(Kind::Highlight);
         const Annotation hidden = sample(Kind::Pixelate), light = sample(Kind::Spotlight);
-        QTest::newRow("nothing") << QList<Annotation> { box } << -1 << -1 << -1;
-        QTest::newRow("inside the selected") << QList { box } << 0 << 0 << 0;
-        QTest::newRow("through the selected") << QList { area, box } << 1 << 0 << 0;
-        QTest::newRow("the upper") << QList { area, hidden } << -1 << 1 << 1;
-        QTest::newRow("the next below") << QList { area, hidden } << 1 << 1 << 0;
-        QTest::newRow("wraps") << QList { area, hidden } << 0 << 1 << 1;
-        QTest::newRow("a spotlight lies below all") << QList { area, light } << -1 << 0 << 0;
-        QTest::newRow("and is reached from there") << QList { area, light } << 0 << 0 << 1;
+        test::row("nothing", QList<Annotation> { box }, -1, -1, -1);
+        test::row("inside the selected", QList { box }, 0, 0, 0);
+        test::row("through the selected", QList { area, box }, 1, 0, 0);
+        test::row("the upper", QList { area, hidden }, -1, 1, 1);
+        test::row("the next below", QList { area, hidden }, 1, 1, 0);
+        test::row("wraps", QList { area, hidden }, 0, 1, 1);
+        test::row("a spotlight lies below all", QList { area, light }, -1, 0, 0);
+        test::row("and is reached from there", QList { area, light }, 0, 0, 1);
     }
     void whichOfSeveralIsMeant()
     {

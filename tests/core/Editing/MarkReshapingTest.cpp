@@ -2,8 +2,7 @@
 #include "core/Editing/MarkReshaping.h"
 
 #include "core/Editing/MarkSteps.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -23,14 +22,11 @@ class MarkReshapingTest : public QObject {
 private Q_SLOTS:
     void aBoxKeepsItsCornersWhenFitted_data()
     {
-        QTest::addColumn<QPointF>("p1");
-        QTest::addColumn<QPointF>("p2");
-        QTest::addColumn<QPointF>("newP1");
-        QTest::addColumn<QPointF>("newP2");
+        test::columns<QPointF, QPointF, QPointF, QPointF>("p1", "p2", "newP1", "newP2");
         const QPointF left(10, 10), right(30, 20), newLeft(0, 5), newRight(60, 35);
-        QTest::newRow("drawn downwards") << left << right << newLeft << newRight;
-        QTest::newRow("drawn upwards") << right << left << newRight << newLeft;
-        QTest::newRow("without size") << left << left << newLeft << newRight;
+        test::row("drawn downwards", left, right, newLeft, newRight);
+        test::row("drawn upwards", right, left, newRight, newLeft);
+        test::row("without size", left, left, newLeft, newRight);
     }
     void aBoxKeepsItsCornersWhenFitted()
     {
@@ -56,13 +52,12 @@ private Q_SLOTS:
 
     void stepsOf15Degrees_data()
     {
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<QPointF>("stepped");
-        QTest::newRow("level") << QPointF(110, 55) << QPointF(110, 50);
-        QTest::newRow("upright") << QPointF(53, 20) << QPointF(50, 20);
-        QTest::newRow("15 degrees") << QPointF(146.59, 75.88) << QPointF(146.59, 75.88);
-        QTest::newRow("diagonal") << QPointF(90, 92) << QPointF(91, 91);
-        QTest::newRow("the centre itself") << QPointF(50, 50) << QPointF(50, 50);
+        test::columns<QPointF, QPointF>("point", "stepped");
+        test::row("level", QPointF(110, 55), QPointF(110, 50));
+        test::row("upright", QPointF(53, 20), QPointF(50, 20));
+        test::row("15 degrees", QPointF(146.59, 75.88), QPointF(146.59, 75.88));
+        test::row("diagonal", QPointF(90, 92), QPointF(91, 91));
+        test::row("the centre itself", QPointF(50, 50), QPointF(50, 50));
     }
     void stepsOf15Degrees()
     {
@@ -90,14 +85,13 @@ private Q_SLOTS:
 
     void theFarEdgeStepsByThePoint_data()
     {
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QPointF>("step");
-        QTest::addColumn<QSizeF>("size"); // from 20 by 10
-        QTest::newRow("wider") << Kind::Ellipse << QPointF(10, 0) << QSizeF(30, 10);
-        QTest::newRow("lower") << Kind::Stamp << QPointF(0, 1) << QSizeF(20, 11);
-        QTest::newRow("never below a point") << Kind::Ellipse << QPointF(0, -10) << QSizeF(20, 1);
-        QTest::newRow("a line's end") << Kind::Line << QPointF(0, -10) << QSizeF(20, 0);
-        QTest::newRow("a path") << Kind::Pen << QPointF(20, 0) << QSizeF(40, 10);
+        // size: from 20 by 10
+        test::columns<Kind, QPointF, QSizeF>("kind", "step", "size");
+        test::row("wider", Kind::Ellipse, QPointF(10, 0), QSizeF(30, 10));
+        test::row("lower", Kind::Stamp, QPointF(0, 1), QSizeF(20, 11));
+        test::row("never below a point", Kind::Ellipse, QPointF(0, -10), QSizeF(20, 1));
+        test::row("a line's end", Kind::Line, QPointF(0, -10), QSizeF(20, 0));
+        test::row("a path", Kind::Pen, QPointF(20, 0), QSizeF(40, 10));
     }
     void theFarEdgeStepsByThePoint()
     {

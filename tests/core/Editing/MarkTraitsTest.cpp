@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Editing/MarkTraits.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -25,19 +24,16 @@ private Q_SLOTS:
 
     void theWheelKeepsWithinTheRange_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<double Annotation::*>("member");
-        QTest::addColumn<double>("from");
-        QTest::addColumn<int>("notches");
-        QTest::addColumn<double>("to");
+        test::columns<AnnotationKind, double Annotation::*, double, int, double>(
+            "kind", "member", "from", "notches", "to");
         using Kind = AnnotationKind;
-        QTest::newRow("wider") << Kind::Arrow << &Annotation::lineWidth << 4.0 << 2 << 6.0;
-        QTest::newRow("never without width") << Kind::Pen << &Annotation::lineWidth << 2.0 << -5 << 1.0;
-        QTest::newRow("larger text") << Kind::Text << &Annotation::fontSize << 18.0 << 1 << 19.0;
-        QTest::newRow("opaque at most") << Kind::Highlight << &Annotation::highlightOpacity << 0.98 << 1 << 1.0;
-        QTest::newRow("lighter") << Kind::Spotlight << &Annotation::spotDim << 0.5 << -2 << 0.4;
-        QTest::newRow("beyond the range, further out") << Kind::Line << &Annotation::lineWidth << 300.0 << 1 << 300.0;
-        QTest::newRow("beyond the range, back in") << Kind::Line << &Annotation::lineWidth << 300.0 << -1 << 200.0;
+        test::row("wider", Kind::Arrow, &Annotation::lineWidth, 4.0, 2, 6.0);
+        test::row("never without width", Kind::Pen, &Annotation::lineWidth, 2.0, -5, 1.0);
+        test::row("larger text", Kind::Text, &Annotation::fontSize, 18.0, 1, 19.0);
+        test::row("opaque at most", Kind::Highlight, &Annotation::highlightOpacity, 0.98, 1, 1.0);
+        test::row("lighter", Kind::Spotlight, &Annotation::spotDim, 0.5, -2, 0.4);
+        test::row("beyond the range, further out", Kind::Line, &Annotation::lineWidth, 300.0, 1, 300.0);
+        test::row("beyond the range, back in", Kind::Line, &Annotation::lineWidth, 300.0, -1, 200.0);
     }
     void theWheelKeepsWithinTheRange()
     {

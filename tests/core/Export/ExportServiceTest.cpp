@@ -4,9 +4,9 @@
 #include "core/Imaging/ImageReading.h"
 #include "core/Preferences/Settings.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/Rows.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -58,9 +58,7 @@ private Q_SLOTS:
 
     void aCopyIsOfferedInTwoTypes_data()
     {
-        QTest::addColumn<bool>("fullSize");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QSizeF>("pointSize");
+        test::columns<bool, QString, QSizeF>("fullSize", "type", "pointSize");
         for (const char *type : { "image/png", "image/tiff" }) {
             QTest::addRow("%s", type) << false << QString(type) << QSizeF(8, 6);
             QTest::addRow("%s at full size", type) << true << QString(type) << QSizeF(16, 12);
@@ -115,15 +113,13 @@ private Q_SLOTS:
 
     void whatIsNotSavedLeavesNothing_data()
     {
-        QTest::addColumn<QString>("name"); // empty for a cancelled panel
-        QTest::addColumn<int>("pixelWidth");
-        QTest::addColumn<bool>("cancels");
-        QTest::addColumn<QStringList>("alerts");
-        QTest::newRow("panel cancelled") << "" << 8 << false << QStringList();
-        QTest::newRow("work cancelled") << "a.webp" << 8 << true << QStringList();
-        QTest::newRow("too wide for the format") << "a.webp" << 16384 << false << QStringList();
-        QTest::newRow("no folder") << "gone/a.webp" << 8 << false << QStringList { "Couldn't save the image" };
-        QTest::newRow("full disk") << "/dev/full" << 8 << false << QStringList { "Couldn't save the image" };
+        // name: empty for a cancelled panel
+        test::columns<QString, int, bool, QStringList>("name", "pixelWidth", "cancels", "alerts");
+        test::row("panel cancelled", "", 8, false, QStringList());
+        test::row("work cancelled", "a.webp", 8, true, QStringList());
+        test::row("too wide for the format", "a.webp", 16384, false, QStringList());
+        test::row("no folder", "gone/a.webp", 8, false, QStringList { "Couldn't save the image" });
+        test::row("full disk", "/dev/full", 8, false, QStringList { "Couldn't save the image" });
     }
 
     void whatIsNotSavedLeavesNothing()

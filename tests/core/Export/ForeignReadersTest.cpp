@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Export/ImageEncoder.h"
 #include "core/Export/OpaqueCopy.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 using test::Transparency;
@@ -45,8 +45,7 @@ class ForeignReadersTest : public QObject {
 private Q_SLOTS:
     void imageMagickSeesTheSamePixels_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<QImage>("pixels");
+        test::columns<ExportFormat, QImage>("format", "pixels");
         for (const ExportFormat format :
             { ExportFormat::Png, ExportFormat::Tiff, ExportFormat::Webp, ExportFormat::Gif, ExportFormat::Bmp }) {
             for (const Transparency transparency : { Transparency::None, Transparency::Binary, Transparency::Soft }) {
@@ -79,33 +78,28 @@ private Q_SLOTS:
 
     void everyReaderKnowsTheFile_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QStringList>("parts"); // of what it prints
+        // parts: of what it prints
+        test::columns<ExportFormat, QString, QStringList, QStringList>("format", "program", "options", "parts");
         const QString identify = QStringLiteral("identify");
         const QStringList verbose { QStringLiteral("-verbose") };
-        QTest::newRow("PNG") << ExportFormat::Png << identify << verbose
-                             << QStringList { "64x30", "Resolution: 56.69x56.69", "Units: PixelsPerCentimeter",
-                                    "png:IHDR.color-type-orig: 6", "Rendering intent: Perceptual" };
-        QTest::newRow("JPEG") << ExportFormat::Jpeg << identify << verbose
-                              << QStringList { "64x30", "Resolution: 144x144", "Units: PixelsPerInch", "Quality: 69",
-                                     "sampling-factor: 1x1,1x1,1x1" };
-        QTest::newRow("BMP") << ExportFormat::Bmp << identify << verbose
-                             << QStringList { "64x30", "Resolution: 56.69x56.69" };
-        QTest::newRow("WebP") << ExportFormat::Webp << QStringLiteral("webpmux") << QStringList { "-info" }
-                              << QStringList { "64 x 30", "EXIF metadata", "Size of the EXIF metadata: 66",
-                                     "transparency" };
-        QTest::newRow("TIFF") << ExportFormat::Tiff << QStringLiteral("tiffinfo") << QStringList { "-D" }
-                              << QStringList { "Image Width: 64 Image Length: 30", "Resolution: 144, 144 pixels/inch",
-                                     "AdobeDeflate", "unassoc-alpha", "horizontal differencing" };
-        QTest::newRow("GIF") << ExportFormat::Gif << QStringLiteral("giftext") << QStringList {}
-                             << QStringList { "Width = 64, Height = 30", "Transparency on: yes" };
-        QTest::newRow("PDF") << ExportFormat::Pdf << QStringLiteral("pdfinfo") << QStringList {}
-                             << QStringList { "Pages:           1", "Page size:       32 x 15 pts" };
-        QTest::newRow("PDF's picture") << ExportFormat::Pdf << QStringLiteral("pdfimages") << QStringList { "-list" }
-                                       << QStringList { "image      64    30  rgb", "smask      64    30  gray",
-                                              "144   144" };
+        test::row("PNG", ExportFormat::Png, identify, verbose,
+            QStringList { "64x30", "Resolution: 56.69x56.69", "Units: PixelsPerCentimeter",
+                "png:IHDR.color-type-orig: 6", "Rendering intent: Perceptual" });
+        test::row("JPEG", ExportFormat::Jpeg, identify, verbose,
+            QStringList { "64x30", "Resolution: 144x144", "Units: PixelsPerInch", "Quality: 69",
+                "sampling-factor: 1x1,1x1,1x1" });
+        test::row("BMP", ExportFormat::Bmp, identify, verbose, QStringList { "64x30", "Resolution: 56.69x56.69" });
+        test::row("WebP", ExportFormat::Webp, QStringLiteral("webpmux"), QStringList { "-info" },
+            QStringList { "64 x 30", "EXIF metadata", "Size of the EXIF metadata: 66", "transparency" });
+        test::row("TIFF", ExportFormat::Tiff, QStringLiteral("tiffinfo"), QStringList { "-D" },
+            QStringList { "Image Width: 64 Image Length: 30", "Resolution: 144, 144 pixels/inch", "AdobeDeflate",
+                "unassoc-alpha", "horizontal differencing" });
+        test::row("GIF", ExportFormat::Gif, QStringLiteral("giftext"), QStringList {},
+            QStringList { "Width = 64, Height = 30", "Transparency on: yes" });
+        test::row("PDF", ExportFormat::Pdf, QStringLiteral("pdfinfo"), QStringList {},
+            QStringList { "Pages:           1", "Page size:       32 x 15 pts" });
+        test::row("PDF's picture", ExportFormat::Pdf, QStringLiteral("pdfimages"), QStringList { "-list" },
+            QStringList { "image      64    30  rgb", "smask      64    30  gray", "144   144" });
     }
 
     void everyReaderKnowsTheFile()

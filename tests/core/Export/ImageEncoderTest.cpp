@@ -2,9 +2,8 @@
 #include "core/Export/ImageEncoder.h"
 #include "core/Export/OpaqueCopy.h"
 #include "core/Imaging/ImageReading.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
-
-#include <QTest>
 
 using namespace tessaly;
 using test::Transparency;
@@ -28,8 +27,7 @@ class ImageEncoderTest : public QObject {
 private Q_SLOTS:
     void losslessFormatsGiveEveryPixelBack_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<QImage>("pixels");
+        test::columns<ExportFormat, QImage>("format", "pixels");
         for (const ExportFormat format :
             { ExportFormat::Png, ExportFormat::Tiff, ExportFormat::Webp, ExportFormat::Gif, ExportFormat::Bmp }) {
             for (const QSize size :
@@ -79,8 +77,7 @@ private Q_SLOTS:
 
     void resolutionComesBack_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<double>("scale");
+        test::columns<ExportFormat, double>("format", "scale");
         for (const ExportFormat format :
             { ExportFormat::Png, ExportFormat::Jpeg, ExportFormat::Tiff, ExportFormat::Webp, ExportFormat::Bmp }) {
             for (const double scale : { 1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 4.0 })
@@ -131,12 +128,11 @@ private Q_SLOTS:
 
     void pictureBeyondAFormatIsRefusedInASentence_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<QSize>("largest");
-        QTest::newRow("WebP, wide") << ExportFormat::Webp << QSize(16383, 1);
-        QTest::newRow("WebP, high") << ExportFormat::Webp << QSize(1, 16383);
-        QTest::newRow("JPEG") << ExportFormat::Jpeg << QSize(65500, 1);
-        QTest::newRow("GIF") << ExportFormat::Gif << QSize(1, 65535);
+        test::columns<ExportFormat, QSize>("format", "largest");
+        test::row("WebP, wide", ExportFormat::Webp, QSize(16383, 1));
+        test::row("WebP, high", ExportFormat::Webp, QSize(1, 16383));
+        test::row("JPEG", ExportFormat::Jpeg, QSize(65500, 1));
+        test::row("GIF", ExportFormat::Gif, QSize(1, 65535));
     }
 
     void pictureBeyondAFormatIsRefusedInASentence()

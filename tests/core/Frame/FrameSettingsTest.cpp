@@ -2,11 +2,11 @@
 #include "core/Frame/FrameSettings.h"
 
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -29,15 +29,11 @@ class FrameSettingsTest : public QObject {
 private Q_SLOTS:
     void opensNewCapturesAsRemembered_data()
     {
-        QTest::addColumn<bool>("always");
-        QTest::addColumn<bool>("on");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("hasFrame");
-        QTest::addColumn<bool>("hasWatermark");
-        QTest::newRow("as wanted") << true << true << "©" << true << true;
-        QTest::newRow("not on every capture") << false << true << "©" << false << false;
-        QTest::newRow("switched off") << true << false << "©" << false << false;
-        QTest::newRow("a watermark that cannot be seen") << true << true << "  " << true << false;
+        test::columns<bool, bool, QString, bool, bool>("always", "on", "text", "hasFrame", "hasWatermark");
+        test::row("as wanted", true, true, "©", true, true);
+        test::row("not on every capture", false, true, "©", false, false);
+        test::row("switched off", true, false, "©", false, false);
+        test::row("a watermark that cannot be seen", true, true, "  ", true, false);
     }
 
     void opensNewCapturesAsRemembered()
@@ -68,9 +64,9 @@ private Q_SLOTS:
     void fallsBackToNewOnes_data()
     {
         QTest::addColumn<QByteArray>("stored");
-        QTest::newRow("nothing") << QByteArray();
-        QTest::newRow("not JSON") << QByteArray("{");
-        QTest::newRow("a list") << QByteArray("[1]");
+        test::row("nothing", QByteArray());
+        test::row("not JSON", QByteArray("{"));
+        test::row("a list", QByteArray("[1]"));
         QTest::newRow("ill-typed") << QByteArray(R"({"padding":"x","opacity":"y"})");
     }
 

@@ -3,9 +3,9 @@
 #include "core/History/HistoryIndexScanner.h"
 
 #include "HistorySamples.h"
+#include "tests/support/Rows.h"
 
 #include <QJsonDocument>
-#include <QTest>
 #include <QTimeZone>
 
 using namespace tessaly;
@@ -48,9 +48,8 @@ private Q_SLOTS:
 
     void readsEntries_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QJsonValue>("value");
-        QTest::addColumn<QString>("reason"); // empty: it is read
+        // reason: empty: it is read
+        test::columns<QString, QJsonValue, QString>("key", "value", "reason");
         const QString missing = QStringLiteral("The capture has no “%1”.");
         const QString wrong = QStringLiteral("The “%1” of the capture cannot be read.");
         for (const char *key : { "id", "title", "created", "modified", "pixelWidth", "pixelHeight" }) {
@@ -58,18 +57,17 @@ private Q_SLOTS:
             QTest::addRow("no %s", key) << name << QJsonValue(QJsonValue::Undefined) << missing.arg(name);
             QTest::addRow("null as %s", key) << name << QJsonValue() << wrong.arg(name);
         }
-        QTest::newRow("no text") << "recognizedText" << QJsonValue(QJsonValue::Undefined) << QString();
-        QTest::newRow("null as text") << "recognizedText" << QJsonValue() << QString();
-        QTest::newRow("number as text") << "recognizedText" << QJsonValue(3) << wrong.arg(u"recognizedText");
-        QTest::newRow("half a pixel") << "pixelWidth" << QJsonValue(1.5) << wrong.arg(u"pixelWidth");
-        QTest::newRow("no identifier") << "id" << QJsonValue(QStringLiteral("7")) << wrong.arg(u"id");
-        QTest::newRow("whole seconds") << "created" << QJsonValue(QStringLiteral("2026-01-31T08:15:00Z")) << QString();
-        QTest::newRow("another zone") << "created" << QJsonValue(QStringLiteral("2026-01-31T08:15:00.250+02:00"))
-                                      << QString();
+        test::row("no text", "recognizedText", QJsonValue(QJsonValue::Undefined), QString());
+        test::row("null as text", "recognizedText", QJsonValue(), QString());
+        test::row("number as text", "recognizedText", QJsonValue(3), wrong.arg(u"recognizedText"));
+        test::row("half a pixel", "pixelWidth", QJsonValue(1.5), wrong.arg(u"pixelWidth"));
+        test::row("no identifier", "id", QJsonValue(QStringLiteral("7")), wrong.arg(u"id"));
+        test::row("whole seconds", "created", QJsonValue(QStringLiteral("2026-01-31T08:15:00Z")), QString());
+        test::row("another zone", "created", QJsonValue(QStringLiteral("2026-01-31T08:15:00.250+02:00")), QString());
         for (const char *date :
             { "2026-02-30T08:15:00.250Z", "2026-01-31T25:15:00.250Z", "2x26-01-31T08:15:00.250Z", "31.1.2026", "" })
             QTest::newRow(date) << "created" << QJsonValue(QString::fromLatin1(date)) << wrong.arg(u"created");
-        QTest::newRow("an unknown key") << "colour" << QJsonValue(QStringLiteral("red")) << QString();
+        test::row("an unknown key", "colour", QJsonValue(QStringLiteral("red")), QString());
     }
 
     void readsEntries()
@@ -110,25 +108,23 @@ private Q_SLOTS:
     /// Whatever form the text has: the fast reader takes it as the general one does, or leaves it.
     void readsAllFormsOfItsIndex_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<bool>("isFast");
+        test::columns<QByteArray, bool>("json", "isFast");
         HistoryEntry entry = test::sampleEntry(1, QStringLiteral("a\"\\/\b\f\n\r\t–😀"));
         HistoryEntry text = test::sampleEntry(2);
         text.recognizedText = QStringLiteral("\\n\n\"");
         const QByteArray plain = HistoryIndex { .entries = { text, entry } }.encoded();
-        QTest::newRow("as written") << plain << true;
-        QTest::newRow("indented") << QJsonDocument::fromJson(plain).toJson() << true;
-        QTest::newRow("null as text") << QByteArray(plain).replace("\"\\\\n\\n\\\"\"", "null") << false;
-        QTest::newRow("an unknown key") << QByteArray(plain).replace("\"version\"", "\"later\":[],\"version\"")
-                                        << false;
-        QTest::newRow("a key twice") << QByteArray(plain).replace("\"title\"", "\"title\":\"x\",\"title\"") << false;
-        QTest::newRow("other numbers") << QByteArray(plain).replace(":64", ":64.0") << false;
-        QTest::newRow("a zero before a number") << QByteArray(plain).replace(":64", ":064") << false;
-        QTest::newRow("control letters") << QByteArray(plain).replace("\\t", "\\u0009") << false;
-        QTest::newRow("a byte order mark") << QByteArray(plain).replace("Screenshot", "\xef\xbb\xbfx") << false;
-        QTest::newRow("garbage behind") << plain + "x" << false;
-        QTest::newRow("no entries") << HistoryIndex {}.encoded() << true;
-        QTest::newRow("no UTF-8") << QByteArray(plain).replace("Screenshot", "\xc3") << false;
+        test::row("as written", plain, true);
+        test::row("indented", QJsonDocument::fromJson(plain).toJson(), true);
+        test::row("null as text", QByteArray(plain).replace("\"\\\\n\\n\\\"\"", "null"), false);
+        test::row("an unknown key", QByteArray(plain).replace("\"version\"", "\"later\":[],\"version\""), false);
+        test::row("a key twice", QByteArray(plain).replace("\"title\"", "\"title\":\"x\",\"title\""), false);
+        test::row("other numbers", QByteArray(plain).replace(":64", ":64.0"), false);
+        test::row("a zero before a number", QByteArray(plain).replace(":64", ":064"), false);
+        test::row("control letters", QByteArray(plain).replace("\\t", "\\u0009"), false);
+        test::row("a byte order mark", QByteArray(plain).replace("Screenshot", "\xef\xbb\xbfx"), false);
+        test::row("garbage behind", plain + "x", false);
+        test::row("no entries", HistoryIndex {}.encoded(), true);
+        test::row("no UTF-8", QByteArray(plain).replace("Screenshot", "\xc3"), false);
     }
 
     void readsAllFormsOfItsIndex()
@@ -148,13 +144,12 @@ private Q_SLOTS:
 
     void refusesWhatIsNoIndex_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("empty") << QByteArray() << "illegal value";
-        QTest::newRow("cut off") << HistoryIndex { .entries = { test::sampleEntry(1) } }.encoded().chopped(40)
-                                 << "unterminated";
+        test::columns<QByteArray, QString>("json", "word");
+        test::row("empty", QByteArray(), "illegal value");
+        test::row(
+            "cut off", HistoryIndex { .entries = { test::sampleEntry(1) } }.encoded().chopped(40), "unterminated");
         QTest::newRow("newer") << QByteArray(R"({"version":2,"entries":[]})") << "version 2";
-        QTest::newRow("a list") << QByteArray("[]") << "no version";
+        test::row("a list", QByteArray("[]"), "no version");
         QTest::newRow("no entries") << QByteArray(R"({"version":1,"entries":{}})") << "no entries";
         QTest::newRow("a bad entry") << QByteArray(R"({"version":1,"entries":[7]})") << "has no";
     }

@@ -2,11 +2,11 @@
 #include "core/History/HistoryKeeper.h"
 
 #include "HistorySamples.h"
+#include "tests/support/Rows.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -168,39 +168,32 @@ private Q_SLOTS:
 
     void performsInTheOrderOfPosting_data()
     {
-        QTest::addColumn<QList<Step>>("steps");
-        QTest::addColumn<QList<int>>("versions"); // of entries 3, 2, 1; 0: it is not there
-        QTest::addColumn<int>("messages"); // that wait before they are taken in
+        // versions: of entries 3, 2, 1; 0: it is not there; messages: that wait before they are taken in
+        test::columns<QList<Step>, QList<int>, int>("steps", "versions", "messages");
         using enum Who;
         using enum What;
-        QTest::newRow("put") << QList<Step> { { Guest, Put, 1, 1 } } << QList { 0, 0, 1 } << 1;
-        QTest::newRow("put twice") << QList<Step> { { Guest, Put, 1, 1 }, { Guest, Put, 1, 2 } } << QList { 0, 0, 2 }
-                                   << 1;
-        QTest::newRow("over the keeper's")
-            << QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Put, 1, 2 } } << QList { 0, 0, 2 } << 1;
-        QTest::newRow("under the keeper's")
-            << QList<Step> { { Guest, Put, 1, 1 }, { Keeper, Put, 1, 2 } } << QList { 0, 0, 2 } << 0;
-        QTest::newRow("update") << QList<Step> { { Keeper, Put, 2, 1 }, { Guest, Update, 2, 5 },
-            { Guest, Update, 2, 6 } }
-                                << QList { 0, 6, 0 } << 1;
-        QTest::newRow("update of none") << QList<Step> { { Guest, Update, 2, 5 } } << QList { 0, 0, 0 } << 1;
-        QTest::newRow("put and update") << QList<Step> { { Guest, Put, 2, 1 }, { Guest, Update, 2, 5 } }
-                                        << QList { 0, 5, 0 } << 2;
-        QTest::newRow("put after remove")
-            << QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Remove, 1 }, { Guest, Put, 1, 2 } } << QList { 0, 0, 2 }
-            << 2;
-        QTest::newRow("remove after put")
-            << QList<Step> { { Guest, Put, 1, 1 }, { Guest, Put, 2, 2 }, { Guest, Remove, 1 } } << QList { 0, 2, 0 }
-            << 2;
-        QTest::newRow("keeper's put after remove")
-            << QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Remove, 1 }, { Keeper, Put, 1, 2 } } << QList { 0, 0, 2 }
-            << 0;
-        QTest::newRow("emptied") << QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Put, 2, 1 }, { Guest, RemoveAll },
-            { Guest, Put, 3, 3 } }
-                                 << QList { 3, 0, 0 } << 2;
-        QTest::newRow("emptied by the keeper")
-            << QList<Step> { { Guest, Put, 2, 1 }, { Keeper, RemoveAll }, { Guest, Put, 3, 3 } } << QList { 3, 0, 0 }
-            << 1;
+        test::row("put", QList<Step> { { Guest, Put, 1, 1 } }, QList { 0, 0, 1 }, 1);
+        test::row("put twice", QList<Step> { { Guest, Put, 1, 1 }, { Guest, Put, 1, 2 } }, QList { 0, 0, 2 }, 1);
+        test::row(
+            "over the keeper's", QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Put, 1, 2 } }, QList { 0, 0, 2 }, 1);
+        test::row(
+            "under the keeper's", QList<Step> { { Guest, Put, 1, 1 }, { Keeper, Put, 1, 2 } }, QList { 0, 0, 2 }, 0);
+        test::row("update", QList<Step> { { Keeper, Put, 2, 1 }, { Guest, Update, 2, 5 }, { Guest, Update, 2, 6 } },
+            QList { 0, 6, 0 }, 1);
+        test::row("update of none", QList<Step> { { Guest, Update, 2, 5 } }, QList { 0, 0, 0 }, 1);
+        test::row(
+            "put and update", QList<Step> { { Guest, Put, 2, 1 }, { Guest, Update, 2, 5 } }, QList { 0, 5, 0 }, 2);
+        test::row("put after remove", QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Remove, 1 }, { Guest, Put, 1, 2 } },
+            QList { 0, 0, 2 }, 2);
+        test::row("remove after put", QList<Step> { { Guest, Put, 1, 1 }, { Guest, Put, 2, 2 }, { Guest, Remove, 1 } },
+            QList { 0, 2, 0 }, 2);
+        test::row("keeper's put after remove",
+            QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Remove, 1 }, { Keeper, Put, 1, 2 } }, QList { 0, 0, 2 }, 0);
+        test::row("emptied",
+            QList<Step> { { Keeper, Put, 1, 1 }, { Guest, Put, 2, 1 }, { Guest, RemoveAll }, { Guest, Put, 3, 3 } },
+            QList { 3, 0, 0 }, 2);
+        test::row("emptied by the keeper",
+            QList<Step> { { Guest, Put, 2, 1 }, { Keeper, RemoveAll }, { Guest, Put, 3, 3 } }, QList { 3, 0, 0 }, 1);
     }
 
     void performsInTheOrderOfPosting()
@@ -218,26 +211,13 @@ private Q_SLOTS:
         for (const Step &step : steps)
             QVERIFY(perform(step.who == Who::Keeper ? keeper : guest, step));
         QCOMPARE(hiddenNames().filter(QStringLiteral(".mailbox/")).size(), messages);
-        QCOMPARE(HistoryKeeper(m_files).load().entries, expected); // as a guest sees it before it is done
+        QCOMPARE(guest.load().entries, expected); // as guests see it before it is done
+        QCOMPARE(HistoryKeeper(m_files).load().entries, expected);
         (void)keeper.takeRequests();
         QVERIFY(!keeper.takeRequests());
         QCOMPARE(keeper.entries(), expected);
         QCOMPARE(hiddenNames(), QStringList());
         QCOMPARE(m_files.load().entries, expected);
-    }
-
-    void guestsSeeTheirOwnChanges()
-    {
-        fill(2);
-        HistoryKeeper keeper(m_files), guest(m_files);
-        QCOMPARE(keeper.load().entries.size(), 2);
-        QCOMPARE(guest.load().entries.size(), 2);
-        QVERIFY(guest.put(samplePackage(3), sampleEntry(3)) && guest.remove({ sampleId(1) }));
-        QCOMPARE(idsOf(guest.entries()), QList({ sampleId(3), sampleId(2) }));
-        QVERIFY(keeper.takeRequests());
-        QCOMPARE(pixelsOf(3), test::samplePixels(3));
-        QVERIFY(guest.removeAll() && guest.entries().isEmpty());
-        QVERIFY(keeper.takeRequests() && keeper.entries().isEmpty());
     }
 
     void putsMalformedMessagesAside()
@@ -305,12 +285,12 @@ private Q_SLOTS:
 
     void restoresOnlyWhatIsWhole_data()
     {
-        QTest::addColumn<QString>("damaged"); // a file of the package that stepped aside
-        QTest::addColumn<bool>("isRestored");
-        QTest::newRow("whole") << QString() << true;
-        QTest::newRow("half a picture") << QStringLiteral("image.png") << false;
-        QTest::newRow("half a document") << QStringLiteral("document.json") << false;
-        QTest::newRow("half an entry") << QStringLiteral("History.json") << false;
+        // damaged: a file of the package that stepped aside
+        test::columns<QString, bool>("damaged", "isRestored");
+        test::row("whole", QString(), true);
+        test::row("half a picture", QStringLiteral("image.png"), false);
+        test::row("half a document", QStringLiteral("document.json"), false);
+        test::row("half an entry", QStringLiteral("History.json"), false);
     }
 
     void restoresOnlyWhatIsWhole()
@@ -407,8 +387,8 @@ private Q_SLOTS:
     void losesNothingOnAFullDisk_data()
     {
         QTest::addColumn<bool>("asGuest");
-        QTest::newRow("keeper") << false;
-        QTest::newRow("guest") << true;
+        test::row("keeper", false);
+        test::row("guest", true);
     }
 
     /// A limit on the length of files stands for the disk that is full; it binds the superuser too.

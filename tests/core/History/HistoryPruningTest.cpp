@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/History/HistoryPruning.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -20,18 +19,15 @@ private Q_SLOTS:
     void ageIsMeasuredInWholeRetentions_data()
     {
         constexpr qint64 day = 86'400'000;
-        QTest::addColumn<qint64>("age");
-        QTest::addColumn<int>("days");
-        QTest::addColumn<bool>("isOpen");
-        QTest::addColumn<bool>("goes");
-        QTest::newRow("as old as may be") << 30 * day << 30 << false << false;
-        QTest::newRow("a moment older") << 30 * day + 1 << 30 << false << true;
-        QTest::newRow("a moment older, but open") << 30 * day + 1 << 30 << true << false;
-        QTest::newRow("one day") << day + 1 << 1 << false << true;
-        QTest::newRow("no limit") << 3650 * day << 0 << false << false;
-        QTest::newRow("no limit either") << 3650 * day << -7 << false << false;
-        QTest::newRow("a limit that no clock reaches") << 3650 * day << 1'000'000 << false << false;
-        QTest::newRow("from the future") << -5 * day << 1 << false << false;
+        test::columns<qint64, int, bool, bool>("age", "days", "isOpen", "goes");
+        test::row("as old as may be", 30 * day, 30, false, false);
+        test::row("a moment older", 30 * day + 1, 30, false, true);
+        test::row("a moment older, but open", 30 * day + 1, 30, true, false);
+        test::row("one day", day + 1, 1, false, true);
+        test::row("no limit", 3650 * day, 0, false, false);
+        test::row("no limit either", 3650 * day, -7, false, false);
+        test::row("a limit that no clock reaches", 3650 * day, 1'000'000, false, false);
+        test::row("from the future", -5 * day, 1, false, false);
     }
 
     void ageIsMeasuredInWholeRetentions()
@@ -48,13 +44,12 @@ private Q_SLOTS:
 
     void atMostThousandAreKept_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QSet<int>>("open"); // by age, 0 is the newest
-        QTest::addColumn<QList<int>>("expired");
-        QTest::newRow("thousand") << 1000 << QSet<int>() << QList<int>();
-        QTest::newRow("one more") << 1001 << QSet<int>() << QList { 1000 };
-        QTest::newRow("the oldest is open") << 1001 << QSet { 1000 } << QList<int>();
-        QTest::newRow("open ones count") << 1002 << QSet { 3, 1001 } << QList { 1000 };
+        // open: by age, 0 is the newest
+        test::columns<int, QSet<int>, QList<int>>("count", "open", "expired");
+        test::row("thousand", 1000, QSet<int>(), QList<int>());
+        test::row("one more", 1001, QSet<int>(), QList { 1000 });
+        test::row("the oldest is open", 1001, QSet { 1000 }, QList<int>());
+        test::row("open ones count", 1002, QSet { 3, 1001 }, QList { 1000 });
     }
 
     void atMostThousandAreKept()
@@ -78,8 +73,7 @@ private Q_SLOTS:
 
     void everyNumberOfDaysHasATitle_data()
     {
-        QTest::addColumn<int>("days");
-        QTest::addColumn<QString>("title");
+        test::columns<int, QString>("days", "title");
         for (const auto &[days, title] :
             { std::pair(7, "1 week"), std::pair(30, "1 month"), std::pair(90, "3 months"), std::pair(365, "1 year"),
                 std::pair(0, "Forever"), std::pair(31, "Forever"), std::pair(-1, "Forever") })

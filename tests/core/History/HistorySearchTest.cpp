@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/History/HistorySearch.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -30,10 +29,7 @@ class HistorySearchTest : public QObject {
 private Q_SLOTS:
     void findsWords_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<bool>("found");
+        test::columns<QString, QString, QString, bool>("language", "text", "query", "found");
 
         const auto row
             = [](const char *name, const char *language, const char16_t *text, const char16_t *query, bool found) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/History/HistoryThumbnails.h"
 
+#include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 using namespace tessaly::test;
@@ -53,24 +53,19 @@ private Q_SLOTS:
     {
         using Files = QList<QPair<QString, QByteArray>>;
         const QString thumbnail = QStringLiteral("QuickLook/Thumbnail.png"), image = QStringLiteral("image.png");
-        QTest::addColumn<Files>("files");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QColor>("color");
+        columns<Files, QSize, QColor>("files", "size", "color");
 
-        QTest::newRow("its thumbnail") << Files { { thumbnail, png({ 400, 200 }, Qt::red) },
-            { image, png({ 800, 400 }, Qt::blue) } }
-                                       << QSize(160, 80) << QColor(Qt::red);
-        QTest::newRow("without one, the capture")
-            << Files { { image, png({ 800, 400 }, Qt::blue) } } << QSize(160, 80) << QColor(Qt::blue);
-        QTest::newRow("for a damaged one, the capture")
-            << Files { { thumbnail, png({ 400, 200 }, Qt::red).chopped(30) }, { image, png({ 300, 300 }, Qt::blue) } }
-            << QSize(100, 100) << QColor(Qt::blue);
-        QTest::newRow("never enlarged") << Files { { thumbnail, png({ 40, 30 }, Qt::green) } } << QSize(40, 30)
-                                        << QColor(Qt::green);
-        QTest::newRow("tall") << Files { { thumbnail, png({ 100, 1000 }, Qt::green) } } << QSize(10, 100)
-                              << QColor(Qt::green);
-        QTest::newRow("a line") << Files { { thumbnail, png({ 1000, 1 }, Qt::green) } } << QSize(160, 1)
-                                << QColor(Qt::green);
+        row("its thumbnail",
+            Files { { thumbnail, png({ 400, 200 }, Qt::red) }, { image, png({ 800, 400 }, Qt::blue) } }, QSize(160, 80),
+            QColor(Qt::red));
+        row("without one, the capture", Files { { image, png({ 800, 400 }, Qt::blue) } }, QSize(160, 80),
+            QColor(Qt::blue));
+        row("for a damaged one, the capture",
+            Files { { thumbnail, png({ 400, 200 }, Qt::red).chopped(30) }, { image, png({ 300, 300 }, Qt::blue) } },
+            QSize(100, 100), QColor(Qt::blue));
+        row("never enlarged", Files { { thumbnail, png({ 40, 30 }, Qt::green) } }, QSize(40, 30), QColor(Qt::green));
+        row("tall", Files { { thumbnail, png({ 100, 1000 }, Qt::green) } }, QSize(10, 100), QColor(Qt::green));
+        row("a line", Files { { thumbnail, png({ 1000, 1 }, Qt::green) } }, QSize(160, 1), QColor(Qt::green));
     }
 
     void readsWhatThePackageHolds()

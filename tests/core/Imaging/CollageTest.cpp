@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/Collage.h"
 #include "tests/support/PictureText.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
-
-#include <QTest>
 
 #include <limits>
 
@@ -28,21 +27,18 @@ private Q_SLOTS:
     /// '#' is a picture, '.' the background.
     void picturesStandInTheirOrder_data()
     {
-        QTest::addColumn<QList<QSize>>("sizes");
-        QTest::addColumn<CollageLayout>("layout");
-        QTest::addColumn<double>("gap");
-        QTest::addColumn<QStringList>("picture");
+        test::columns<QList<QSize>, CollageLayout, double, QStringList>("sizes", "layout", "gap", "picture");
         const QList<QSize> two { { 2, 2 }, { 3, 2 } };
-        QTest::newRow("side by side") << two << SideBySide << 1.0 << QStringList { "##.###", "##.###" };
-        QTest::newRow("the smaller grows")
-            << QList<QSize> { { 1, 1 }, { 2, 2 } } << SideBySide << 1.0 << QStringList { "##.##", "##.##" };
-        QTest::newRow("stacked, the smaller grows") << QList<QSize> { { 2, 1 }, { 4, 1 } } << Stacked << 2.0
-                                                    << QStringList { "####", "####", "....", "....", "####" };
-        QTest::newRow("no gap around one") << QList<QSize> { { 2, 1 } } << Stacked << 12.0 << QStringList { "##" };
-        QTest::newRow("no gap below nothing") << two << SideBySide << -1.0 << QStringList { "#####", "#####" };
-        QTest::newRow("an unfit gap") << two << SideBySide << std::nan("") << QStringList { "#####", "#####" };
-        QTest::newRow("what has no area is left out")
-            << QList<QSize> { {}, { 1, 1 }, { 0, 5 }, { 1, 1 } } << SideBySide << 2.0 << QStringList { "#..#" };
+        test::row("side by side", two, SideBySide, 1.0, QStringList { "##.###", "##.###" });
+        test::row("the smaller grows", QList<QSize> { { 1, 1 }, { 2, 2 } }, SideBySide, 1.0,
+            QStringList { "##.##", "##.##" });
+        test::row("stacked, the smaller grows", QList<QSize> { { 2, 1 }, { 4, 1 } }, Stacked, 2.0,
+            QStringList { "####", "####", "....", "....", "####" });
+        test::row("no gap around one", QList<QSize> { { 2, 1 } }, Stacked, 12.0, QStringList { "##" });
+        test::row("no gap below nothing", two, SideBySide, -1.0, QStringList { "#####", "#####" });
+        test::row("an unfit gap", two, SideBySide, std::nan(""), QStringList { "#####", "#####" });
+        test::row("what has no area is left out", QList<QSize> { {}, { 1, 1 }, { 0, 5 }, { 1, 1 } }, SideBySide, 2.0,
+            QStringList { "#..#" });
     }
 
     void picturesStandInTheirOrder()
@@ -60,18 +56,16 @@ private Q_SLOTS:
 
     void sharedSide_data()
     {
-        QTest::addColumn<QList<QSize>>("sizes");
-        QTest::addColumn<CollageLayout>("layout");
-        QTest::addColumn<QSizeF>("points");
-        QTest::newRow("the largest height")
-            << QList<QSize> { { 500, 600 }, { 100, 300 } } << SideBySide << QSizeF(500 + 12 + 200, 600);
-        QTest::newRow("at most 1200 high")
-            << QList<QSize> { { 1000, 2400 }, { 100, 600 } } << SideBySide << QSizeF(500 + 12 + 200, 1200);
-        QTest::newRow("one alone") << QList<QSize> { { 3000, 1500 } } << SideBySide << QSizeF(2400, 1200);
-        QTest::newRow("at most 1200 wide")
-            << QList<QSize> { { 2400, 1000 }, { 600, 100 } } << Stacked << QSizeF(1200, 500 + 12 + 200);
-        QTest::newRow("never a side of nothing")
-            << QList<QSize> { { 3000, 1 }, { 1, 3000 } } << SideBySide << QSizeF(3600000.0 + 12, 1200);
+        test::columns<QList<QSize>, CollageLayout, QSizeF>("sizes", "layout", "points");
+        test::row(
+            "the largest height", QList<QSize> { { 500, 600 }, { 100, 300 } }, SideBySide, QSizeF(500 + 12 + 200, 600));
+        test::row("at most 1200 high", QList<QSize> { { 1000, 2400 }, { 100, 600 } }, SideBySide,
+            QSizeF(500 + 12 + 200, 1200));
+        test::row("one alone", QList<QSize> { { 3000, 1500 } }, SideBySide, QSizeF(2400, 1200));
+        test::row(
+            "at most 1200 wide", QList<QSize> { { 2400, 1000 }, { 600, 100 } }, Stacked, QSizeF(1200, 500 + 12 + 200));
+        test::row("never a side of nothing", QList<QSize> { { 3000, 1 }, { 1, 3000 } }, SideBySide,
+            QSizeF(3600000.0 + 12, 1200));
     }
 
     void sharedSide()
@@ -90,19 +84,16 @@ private Q_SLOTS:
 
     void pixelsPerPoint_data()
     {
-        QTest::addColumn<QList<double>>("scales");
-        QTest::addColumn<qint64>("maxPixels");
-        QTest::addColumn<QSize>("pixels");
-        QTest::addColumn<double>("scale");
+        test::columns<QList<double>, qint64, QSize, double>("scales", "maxPixels", "pixels", "scale");
         // Each stands for 100 × 100 points; with the gap of 10 the collage is 210 × 100.
         const qint64 many = 1'000'000;
-        QTest::newRow("those of the finest") << QList<double> { 1, 2 } << many << QSize(420, 200) << 2.0;
-        QTest::newRow("between whole numbers") << QList<double> { 1.5, 1 } << many << QSize(315, 150) << 1.5;
-        QTest::newRow("at the limit") << QList<double> { 1, 2 } << qint64(84'000) << QSize(420, 200) << 2.0;
-        QTest::newRow("coarser beyond it") << QList<double> { 1, 2 } << qint64(83'999) << QSize(210, 100) << 1.0;
-        QTest::newRow("the next of them") << QList<double> { 3, 2 } << qint64(90'000) << QSize(420, 200) << 2.0;
-        QTest::newRow("none of them") << QList<double> { 3, 2 } << qint64(30'000) << QSize(210, 100) << 1.0;
-        QTest::newRow("too many in any case") << QList<double> { 3, 2 } << qint64(20'999) << QSize() << 0.0;
+        test::row("those of the finest", QList<double> { 1, 2 }, many, QSize(420, 200), 2.0);
+        test::row("between whole numbers", QList<double> { 1.5, 1 }, many, QSize(315, 150), 1.5);
+        test::row("at the limit", QList<double> { 1, 2 }, qint64(84'000), QSize(420, 200), 2.0);
+        test::row("coarser beyond it", QList<double> { 1, 2 }, qint64(83'999), QSize(210, 100), 1.0);
+        test::row("the next of them", QList<double> { 3, 2 }, qint64(90'000), QSize(420, 200), 2.0);
+        test::row("none of them", QList<double> { 3, 2 }, qint64(30'000), QSize(210, 100), 1.0);
+        test::row("too many in any case", QList<double> { 3, 2 }, qint64(20'999), QSize(), 0.0);
     }
 
     void pixelsPerPoint()
@@ -133,13 +124,11 @@ private Q_SLOTS:
 
     void transparencyShowsTheBackground_data()
     {
-        QTest::addColumn<QColor>("picture");
-        QTest::addColumn<QColor>("background");
-        QTest::addColumn<QColor>("result");
-        QTest::newRow("half") << QColor(255, 0, 0, 128) << QColor(Qt::white) << QColor(255, 127, 127);
-        QTest::newRow("clear") << QColor(0, 0, 0, 0) << QColor(10, 20, 30) << QColor(10, 20, 30);
-        QTest::newRow("on a clear one") << QColor(0, 0, 255, 51) << QColor(0, 0, 0, 0) << QColor(0, 0, 255, 51);
-        QTest::newRow("opaque") << QColor(1, 2, 3) << QColor(0, 0, 0, 0) << QColor(1, 2, 3);
+        test::columns<QColor, QColor, QColor>("picture", "background", "result");
+        test::row("half", QColor(255, 0, 0, 128), QColor(Qt::white), QColor(255, 127, 127));
+        test::row("clear", QColor(0, 0, 0, 0), QColor(10, 20, 30), QColor(10, 20, 30));
+        test::row("on a clear one", QColor(0, 0, 255, 51), QColor(0, 0, 0, 0), QColor(0, 0, 255, 51));
+        test::row("opaque", QColor(1, 2, 3), QColor(0, 0, 0, 0), QColor(1, 2, 3));
     }
 
     void transparencyShowsTheBackground()
@@ -175,13 +164,12 @@ private Q_SLOTS:
 
     void absurdSizesGiveNothing_data()
     {
-        QTest::addColumn<QSizeF>("points");
-        QTest::addColumn<double>("gap");
+        test::columns<QSizeF, double>("points", "gap");
         const double huge = std::numeric_limits<double>::max(), tiny = std::numeric_limits<double>::min();
-        QTest::newRow("a gap") << QSizeF(2, 2) << huge;
-        QTest::newRow("a line without end") << QSizeF(huge, tiny) << 12.0;
-        QTest::newRow("beyond numbers") << QSizeF(huge, huge / 1e10) << 1e9;
-        QTest::newRow("not a number") << QSizeF(std::nan(""), 2) << 12.0;
+        test::row("a gap", QSizeF(2, 2), huge);
+        test::row("a line without end", QSizeF(huge, tiny), 12.0);
+        test::row("beyond numbers", QSizeF(huge, huge / 1e10), 1e9);
+        test::row("not a number", QSizeF(std::nan(""), 2), 12.0);
     }
 
     void absurdSizesGiveNothing()

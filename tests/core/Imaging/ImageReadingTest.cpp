@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/ImageReading.h"
 #include "tests/support/PngFile.h"
+#include "tests/support/Rows.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -82,21 +82,18 @@ class ImageReadingTest : public QObject {
 private Q_SLOTS:
     void badBytesGiveOneSentence_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("reason");
+        test::columns<QByteArray, QString>("bytes", "reason");
         const QString incomplete = QStringLiteral("damaged or incomplete"), unknown = QStringLiteral("not a picture");
-        QTest::newRow("nothing") << QByteArray() << QStringLiteral("is empty");
-        QTest::newRow("text") << QByteArray("hello, world") << unknown;
-        QTest::newRow("drawing") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><text>x</text></svg>")
-                                 << unknown;
-        QTest::newRow("PNG, signature only") << saved(gradient(), "png").left(8) << incomplete;
-        QTest::newRow("PNG, 100 000 × 100 000")
-            << pngClaiming(100000, 100000) << QStringLiteral("100000 × 100000 pixels");
-        QTest::newRow("PNG, larger than its data") << pngClaiming(5000, 5000) << incomplete;
+        test::row("nothing", QByteArray(), QStringLiteral("is empty"));
+        test::row("text", QByteArray("hello, world"), unknown);
+        test::row("drawing", QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><text>x</text></svg>"), unknown);
+        test::row("PNG, signature only", saved(gradient(), "png").left(8), incomplete);
+        test::row("PNG, 100 000 × 100 000", pngClaiming(100000, 100000), QStringLiteral("100000 × 100000 pixels"));
+        test::row("PNG, larger than its data", pngClaiming(5000, 5000), incomplete);
         QByteArray flipped = saved(gradient(), "png");
         flipped[flipped.size() / 2] = char(flipped[flipped.size() / 2] ^ 0x10);
-        QTest::newRow("PNG, all but its end") << saved(gradient(), "png").chopped(12) << incomplete;
-        QTest::newRow("PNG, one bit wrong") << flipped << incomplete;
+        test::row("PNG, all but its end", saved(gradient(), "png").chopped(12), incomplete);
+        test::row("PNG, one bit wrong", flipped, incomplete);
         for (const char *format : { "png", "jpg", "webp", "tiff", "bmp", "ppm" }) {
             const QByteArray whole = saved(gradient(), format);
             for (const int percent : { 50, 99 })
@@ -104,8 +101,8 @@ private Q_SLOTS:
         }
         const QByteArray gif
             = QByteArray::fromHex("47494638396102000100800000000000ffffff2c00000000020001000002024c0a003b");
-        QTest::newRow("GIF, within its data") << gif.left(31) << incomplete;
-        QTest::newRow("GIF, before its data") << gif.left(23) << incomplete;
+        test::row("GIF, within its data", gif.left(31), incomplete);
+        test::row("GIF, before its data", gif.left(23), incomplete);
     }
 
     void badBytesGiveOneSentence()
@@ -144,14 +141,13 @@ private Q_SLOTS:
 
     void badPathsGiveOneSentence_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("folder") << QStringLiteral(".") << QStringLiteral("is a folder");
-        QTest::newRow("missing") << QStringLiteral("missing.png") << QStringLiteral("could not be read");
-        QTest::newRow("pipe that nobody writes to") << QStringLiteral("pipe") << QStringLiteral("is not a file");
-        QTest::newRow("device") << QStringLiteral("device") << QStringLiteral("is not a file");
-        QTest::newRow("empty") << QStringLiteral("empty.png") << QStringLiteral("is empty");
-        QTest::newRow("far too large") << QStringLiteral("huge.png") << QStringLiteral("is too large");
+        test::columns<QString, QString>("name", "reason");
+        test::row("folder", QStringLiteral("."), QStringLiteral("is a folder"));
+        test::row("missing", QStringLiteral("missing.png"), QStringLiteral("could not be read"));
+        test::row("pipe that nobody writes to", QStringLiteral("pipe"), QStringLiteral("is not a file"));
+        test::row("device", QStringLiteral("device"), QStringLiteral("is not a file"));
+        test::row("empty", QStringLiteral("empty.png"), QStringLiteral("is empty"));
+        test::row("far too large", QStringLiteral("huge.png"), QStringLiteral("is too large"));
     }
 
     void badPathsGiveOneSentence()
@@ -172,31 +168,30 @@ private Q_SLOTS:
 
     void resolutionBecomesPixelsPerPoint_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<double>("scale");
-        QTest::newRow("PNG, rounded") << pngOfDensity(5669) << 2.0;
-        QTest::newRow("PNG, cut off") << pngOfDensity(4251) << 1.5;
-        QTest::newRow("PNG, rounded up") << pngOfDensity(4252) << 1.5;
-        QTest::newRow("PNG, one too few") << pngOfDensity(5668) << 1.0;
-        QTest::newRow("PNG, 96 dpi") << pngOfDensity(3780) << 1.0;
-        QTest::newRow("PNG, a ratio only") << pngOfDensity(5669, 0) << 1.0;
-        QTest::newRow("PNG, beyond all") << pngOfDensity(0xffffffff) << 1.0;
-        QTest::newRow("PNG, no record") << pngWith("tEXt", QByteArray("a\0b", 3)) << 1.0;
-        QTest::newRow("JPEG, per inch") << jpegOfDensity(1, 126) << 1.75;
-        QTest::newRow("JPEG, per inch, one off") << jpegOfDensity(1, 127) << 1.0;
-        QTest::newRow("JPEG, per centimetre") << jpegOfDensity(2, 57) << 2.0;
-        QTest::newRow("JPEG, a ratio only") << jpegOfDensity(0, 144) << 1.0;
+        test::columns<QByteArray, double>("file", "scale");
+        test::row("PNG, rounded", pngOfDensity(5669), 2.0);
+        test::row("PNG, cut off", pngOfDensity(4251), 1.5);
+        test::row("PNG, rounded up", pngOfDensity(4252), 1.5);
+        test::row("PNG, one too few", pngOfDensity(5668), 1.0);
+        test::row("PNG, 96 dpi", pngOfDensity(3780), 1.0);
+        test::row("PNG, a ratio only", pngOfDensity(5669, 0), 1.0);
+        test::row("PNG, beyond all", pngOfDensity(0xffffffff), 1.0);
+        test::row("PNG, no record", pngWith("tEXt", QByteArray("a\0b", 3)), 1.0);
+        test::row("JPEG, per inch", jpegOfDensity(1, 126), 1.75);
+        test::row("JPEG, per inch, one off", jpegOfDensity(1, 127), 1.0);
+        test::row("JPEG, per centimetre", jpegOfDensity(2, 57), 2.0);
+        test::row("JPEG, a ratio only", jpegOfDensity(0, 144), 1.0);
         const QByteArray entries = QByteArray::fromHex("011a00050000000100000026"
                                                        "012800030000000100020000");
-        QTest::newRow("JPEG, EXIF") << jpegWithExif(entries, 2, test::bigEndian(21600) + test::bigEndian(100)) << 3.0;
-        QTest::newRow("JPEG, EXIF divided by zero")
-            << jpegWithExif(entries, 2, test::bigEndian(216) + test::bigEndian(0)) << 1.0;
-        QTest::newRow("JPEG, EXIF pointing outside") << jpegWithExif(entries, 2) << 1.0;
+        test::row("JPEG, EXIF", jpegWithExif(entries, 2, test::bigEndian(21600) + test::bigEndian(100)), 3.0);
+        test::row(
+            "JPEG, EXIF divided by zero", jpegWithExif(entries, 2, test::bigEndian(216) + test::bigEndian(0)), 1.0);
+        test::row("JPEG, EXIF pointing outside", jpegWithExif(entries, 2), 1.0);
         QImage image = gradient();
         image.setDotsPerMeterX(7087);
         image.setDotsPerMeterY(7087);
-        QTest::newRow("TIFF") << saved(image, "tiff") << 2.5;
-        QTest::newRow("BMP") << saved(image, "bmp") << 2.5;
+        test::row("TIFF", saved(image, "tiff"), 2.5);
+        test::row("BMP", saved(image, "bmp"), 2.5);
     }
 
     void resolutionBecomesPixelsPerPoint()
@@ -223,12 +218,12 @@ private Q_SLOTS:
     void everyKindOfPixelBecomesOneOfTwo_data()
     {
         QTest::addColumn<QImage::Format>("format");
-        QTest::newRow("bits") << QImage::Format_Mono;
-        QTest::newRow("grey") << QImage::Format_Grayscale8;
-        QTest::newRow("grey, 16 bits") << QImage::Format_Grayscale16;
-        QTest::newRow("palette") << QImage::Format_Indexed8;
-        QTest::newRow("16 bits") << QImage::Format_RGBX64;
-        QTest::newRow("16 bits with alpha") << QImage::Format_RGBA64;
+        test::row("bits", QImage::Format_Mono);
+        test::row("grey", QImage::Format_Grayscale8);
+        test::row("grey, 16 bits", QImage::Format_Grayscale16);
+        test::row("palette", QImage::Format_Indexed8);
+        test::row("16 bits", QImage::Format_RGBX64);
+        test::row("16 bits with alpha", QImage::Format_RGBA64);
     }
 
     void everyKindOfPixelBecomesOneOfTwo()

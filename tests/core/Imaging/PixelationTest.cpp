@@ -4,8 +4,7 @@
 #include "core/Imaging/CellNoise.h"
 #include "core/Imaging/ImageEffects.h"
 #include "tests/support/NoisePicture.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 #include <cmath>
 
@@ -44,24 +43,21 @@ class PixelationTest : public QObject {
 private Q_SLOTS:
     void sizesCells_data()
     {
-        QTest::addColumn<QSize>("region");
-        QTest::addColumn<double>("strength");
-        QTest::addColumn<double>("pixelsPerPoint");
-        QTest::addColumn<double>("side");
+        test::columns<QSize, double, double, double>("region", "strength", "pixelsPerPoint", "side");
 
-        QTest::newRow("usual") << QSize(240, 120) << 1.0 << 1.0 << 14.0;
-        QTest::newRow("at two pixels per point") << QSize(480, 240) << 1.0 << 2.0 << 28.0;
-        QTest::newRow("a twelfth wins") << QSize(1000, 600) << 1.0 << 1.0 << 50.0;
-        QTest::newRow("two cells and a half") << QSize(200, 25) << 1.0 << 1.0 << 10.0;
-        QTest::newRow("weak does not shrink the floor") << QSize(240, 120) << 0.5 << 1.0 << 14.0;
-        QTest::newRow("strong raises it") << QSize(240, 120) << 2.0 << 1.0 << 28.0;
-        QTest::newRow("tall") << QSize(120, 240) << 3.0 << 1.0 << 42.0;
-        QTest::newRow("six at least") << QSize(9, 300) << 1.0 << 1.0 << 6.0;
-        QTest::newRow("no strength is 0.05") << QSize(6000, 6000) << 0.0 << 1.0 << 25.0;
-        QTest::newRow("negative too") << QSize(6000, 6000) << -7.0 << 1.0 << 25.0;
-        QTest::newRow("no number is 1") << QSize(1000, 600) << double(NAN) << 1.0 << 50.0;
-        QTest::newRow("no scale is 1") << QSize(240, 120) << 1.0 << -2.0 << 14.0;
-        QTest::newRow("nothing to hide") << QSize(0, 0) << HUGE_VAL << 1.0 << 6.0;
+        test::row("usual", QSize(240, 120), 1.0, 1.0, 14.0);
+        test::row("at two pixels per point", QSize(480, 240), 1.0, 2.0, 28.0);
+        test::row("a twelfth wins", QSize(1000, 600), 1.0, 1.0, 50.0);
+        test::row("two cells and a half", QSize(200, 25), 1.0, 1.0, 10.0);
+        test::row("weak does not shrink the floor", QSize(240, 120), 0.5, 1.0, 14.0);
+        test::row("strong raises it", QSize(240, 120), 2.0, 1.0, 28.0);
+        test::row("tall", QSize(120, 240), 3.0, 1.0, 42.0);
+        test::row("six at least", QSize(9, 300), 1.0, 1.0, 6.0);
+        test::row("no strength is 0.05", QSize(6000, 6000), 0.0, 1.0, 25.0);
+        test::row("negative too", QSize(6000, 6000), -7.0, 1.0, 25.0);
+        test::row("no number is 1", QSize(1000, 600), double(NAN), 1.0, 50.0);
+        test::row("no scale is 1", QSize(240, 120), 1.0, -2.0, 14.0);
+        test::row("nothing to hide", QSize(0, 0), HUGE_VAL, 1.0, 6.0);
     }
 
     void sizesCells()
@@ -74,15 +70,14 @@ private Q_SLOTS:
 
     void averagesCells_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<double>("side");
-        QTest::newRow("whole cells") << QSize(28, 14) << 7.0;
-        QTest::newRow("broken sides") << QSize(41, 30) << 6.37;
-        QTest::newRow("even cells") << QSize(40, 33) << 10.0;
-        QTest::newRow("runs longer than 16 bits hold") << QSize(64, 120) << 50.0;
-        QTest::newRow("one column") << QSize(1, 40) << 6.0;
-        QTest::newRow("one row") << QSize(40, 1) << 6.0;
-        QTest::newRow("smaller than a cell") << QSize(5, 4) << 23.0;
+        test::columns<QSize, double>("size", "side");
+        test::row("whole cells", QSize(28, 14), 7.0);
+        test::row("broken sides", QSize(41, 30), 6.37);
+        test::row("even cells", QSize(40, 33), 10.0);
+        test::row("runs longer than 16 bits hold", QSize(64, 120), 50.0);
+        test::row("one column", QSize(1, 40), 6.0);
+        test::row("one row", QSize(40, 1), 6.0);
+        test::row("smaller than a cell", QSize(5, 4), 23.0);
     }
 
     void averagesCells()
@@ -122,15 +117,13 @@ private Q_SLOTS:
 
     void blendsNoiseSoftly_data()
     {
-        QTest::addColumn<double>("below");
-        QTest::addColumn<double>("above");
-        QTest::addColumn<double>("blended");
-        QTest::newRow("half changes nothing") << 0.3 << 0.5 << 0.3;
-        QTest::newRow("dark") << 0.5 << 0.38 << 0.44;
-        QTest::newRow("light on dark") << 0.2 << 0.62 << 0.2 + 0.24 * (0.448 - 0.2);
-        QTest::newRow("light on light") << 0.64 << 0.62 << 0.64 + 0.24 * 0.16;
-        QTest::newRow("black stays") << 0.0 << 0.62 << 0.0;
-        QTest::newRow("white stays") << 1.0 << 0.38 << 1.0;
+        test::columns<double, double, double>("below", "above", "blended");
+        test::row("half changes nothing", 0.3, 0.5, 0.3);
+        test::row("dark", 0.5, 0.38, 0.44);
+        test::row("light on dark", 0.2, 0.62, 0.2 + 0.24 * (0.448 - 0.2));
+        test::row("light on light", 0.64, 0.62, 0.64 + 0.24 * 0.16);
+        test::row("black stays", 0.0, 0.62, 0.0);
+        test::row("white stays", 1.0, 0.38, 1.0);
     }
 
     void blendsNoiseSoftly()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Imaging/RasterImage.h"
+#include "tests/support/Rows.h"
 
 #include <QColorSpace>
-#include <QTest>
 
 #include <limits>
 
@@ -14,21 +14,18 @@ class RasterImageTest : public QObject {
 private Q_SLOTS:
     void tellsScaleAndResolution_data()
     {
-        QTest::addColumn<int>("pixelWidth");
-        QTest::addColumn<double>("pointWidth");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("dpi");
+        test::columns<int, double, double, int>("pixelWidth", "pointWidth", "scale", "dpi");
 
-        QTest::newRow("two pixels per point") << 240 << 120.0 << 2.0 << 144;
-        QTest::newRow("one") << 240 << 240.0 << 1.0 << 72;
-        QTest::newRow("a quarter more") << 250 << 200.0 << 1.25 << 90;
-        QTest::newRow("fewer pixels than points") << 100 << 200.0 << 1.0 << 36;
-        QTest::newRow("rounds") << 100 << 70.0 << 100 / 70.0 << 103;
-        QTest::newRow("no point width") << 240 << 0.0 << 1.0 << 72;
-        QTest::newRow("negative") << 240 << -5.0 << 1.0 << 72;
-        QTest::newRow("no pixels") << 0 << 120.0 << 1.0 << 0;
-        QTest::newRow("no number") << 240 << std::numeric_limits<double>::quiet_NaN() << 1.0 << 72;
-        QTest::newRow("next to nothing") << 240 << 1e-300 << 240 / 1e-300 << std::numeric_limits<int>::max();
+        test::row("two pixels per point", 240, 120.0, 2.0, 144);
+        test::row("one", 240, 240.0, 1.0, 72);
+        test::row("a quarter more", 250, 200.0, 1.25, 90);
+        test::row("fewer pixels than points", 100, 200.0, 1.0, 36);
+        test::row("rounds", 100, 70.0, 100 / 70.0, 103);
+        test::row("no point width", 240, 0.0, 1.0, 72);
+        test::row("negative", 240, -5.0, 1.0, 72);
+        test::row("no pixels", 0, 120.0, 1.0, 0);
+        test::row("no number", 240, std::numeric_limits<double>::quiet_NaN(), 1.0, 72);
+        test::row("next to nothing", 240, 1e-300, 240 / 1e-300, std::numeric_limits<int>::max());
     }
 
     void tellsScaleAndResolution()
@@ -42,8 +39,7 @@ private Q_SLOTS:
 
     void keepsTwoFormats_data()
     {
-        QTest::addColumn<QImage::Format>("given");
-        QTest::addColumn<QImage::Format>("kept");
+        test::columns<QImage::Format, QImage::Format>("given", "kept");
         QTest::addRow("opaque") << QImage::Format_RGB888 << QImage::Format_RGB32;
         QTest::addRow("gray") << QImage::Format_Grayscale8 << QImage::Format_RGB32;
         QTest::addRow("deep") << QImage::Format_RGBX64 << QImage::Format_RGB32;

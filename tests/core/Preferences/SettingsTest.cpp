@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Preferences/Settings.h"
 
+#include "tests/support/Rows.h"
 #include "tests/support/TestFiles.h"
 
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 using test::fileContent;
@@ -32,11 +32,8 @@ private Q_SLOTS:
 
     void readsTheDefaultForAnotherType_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<double>("quality");
-        QTest::addColumn<bool>("copies");
-        QTest::newRow("no file") << QByteArray() << "png" << 0.9 << false;
+        test::columns<QByteArray, QString, double, bool>("json", "format", "quality", "copies");
+        test::row("no file", QByteArray(), "png", 0.9, false);
         QTest::newRow("set") << QByteArray(R"({"exportFormat":"gif","jpegQuality":0.5,"autoCopyAfterSave":true})")
                              << "gif" << 0.5 << true;
         QTest::newRow("whole number") << QByteArray(R"({"jpegQuality":1})") << "png" << 1.0 << false;
@@ -82,10 +79,10 @@ private Q_SLOTS:
     void putsAnUnreadableFileAside_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::newRow("not JSON") << QByteArray("exportFormat=gif");
-        QTest::newRow("cut off") << QByteArray("{\"exportFormat\":\"gi");
-        QTest::newRow("a list") << QByteArray("[1]");
-        QTest::newRow("empty") << QByteArray("");
+        test::row("not JSON", QByteArray("exportFormat=gif"));
+        test::row("cut off", QByteArray("{\"exportFormat\":\"gi"));
+        test::row("a list", QByteArray("[1]"));
+        test::row("empty", QByteArray(""));
     }
 
     void putsAnUnreadableFileAside()

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/FrameComposition.h"
 #include "tests/support/DrawnMarks.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
-
-#include <QTest>
 
 using namespace tessaly;
 
@@ -46,11 +45,10 @@ class FrameCompositionTest : public QObject {
 private Q_SLOTS:
     void aPlainCaptureStaysAsItIs_data()
     {
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<bool>("translucent");
-        QTest::newRow("1x") << 1.0 << false;
-        QTest::newRow("2x with alpha") << 2.0 << true;
-        QTest::newRow("1.25x") << 1.25 << false;
+        test::columns<double, bool>("scale", "translucent");
+        test::row("1x", 1.0, false);
+        test::row("2x with alpha", 2.0, true);
+        test::row("1.25x", 1.25, false);
     }
 
     void aPlainCaptureStaysAsItIs()
@@ -136,8 +134,7 @@ private Q_SLOTS:
 
     void watermarksKeepTheirInset_data()
     {
-        QTest::addColumn<WatermarkPosition>("position");
-        QTest::addColumn<WatermarkKind>("kind");
+        test::columns<WatermarkPosition, WatermarkKind>("position", "kind");
         for (const auto &position : enumNames<WatermarkPosition>) {
             for (const auto &kind : enumNames<WatermarkKind>)
                 QTest::addRow("%s %s", position.raw.data(), kind.raw.data()) << position.value << kind.value;
@@ -194,12 +191,11 @@ private Q_SLOTS:
 
     void absurdFramesGiveNoPicture_data()
     {
-        QTest::addColumn<double>("width");
-        QTest::addColumn<double>("scale");
-        QTest::newRow("a canvas beyond all memory") << 1e9 << 1.0;
-        QTest::newRow("no number") << std::nan("") << 1.0;
-        QTest::newRow("scale of 0") << 60.0 << 0.0;
-        QTest::newRow("a scale beyond all memory") << 60.0 << 1e9;
+        test::columns<double, double>("width", "scale");
+        test::row("a canvas beyond all memory", 1e9, 1.0);
+        test::row("no number", std::nan(""), 1.0);
+        test::row("scale of 0", 60.0, 0.0);
+        test::row("a scale beyond all memory", 60.0, 1e9);
     }
 
     void absurdFramesGiveNoPicture()

@@ -2,9 +2,8 @@
 #include "core/Rendering/FrameComposition.h"
 #include "core/Rendering/HiddenParts.h"
 #include "tests/support/DrawnMarks.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
-
-#include <QTest>
 
 using namespace tessaly;
 
@@ -63,10 +62,7 @@ class HidingTest : public QObject {
 private Q_SLOTS:
     void coveredPixelsLeaveNoTrace_data()
     {
-        QTest::addColumn<QRectF>("hidden");
-        QTest::addColumn<ObscureStyle>("style");
-        QTest::addColumn<double>("captureScale");
-        QTest::addColumn<double>("outputScale");
+        test::columns<QRectF, ObscureStyle, double, double>("hidden", "style", "captureScale", "outputScale");
         const std::pair<const char *, QRectF> places[] { { "inside", { 40, 30, 30, 20 } },
             { "between pixels", { 40.3, 29.7, 30.5, 19.4 } }, { "over the left edge", { -10, 20.2, 40.4, 30 } },
             { "in the corner", { 90.6, 60.5, 29.4, 19.5 } } };
@@ -120,8 +116,7 @@ private Q_SLOTS:
 
     void whatReadsTheCaptureSeesTheCovers_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<bool>("covers");
+        test::columns<Annotation, bool>("mark", "covers");
         const QRectF box(40, 30, 30, 20);
         const auto filled = [&](AnnotationKind kind) {
             Annotation mark = boxed(kind, box);
@@ -130,11 +125,11 @@ private Q_SLOTS:
         };
         for (const auto &row : enumNames<ObscureStyle>)
             QTest::addRow("%s", row.raw.data()) << obscured(row.value, box) << true;
-        QTest::newRow("filled rectangle") << filled(AnnotationKind::Rectangle) << true;
-        QTest::newRow("filled ellipse") << filled(AnnotationKind::Ellipse) << true;
-        QTest::newRow("outlined") << boxed(AnnotationKind::Rectangle, box) << false;
-        QTest::newRow("highlighted") << boxed(AnnotationKind::Highlight, box) << false;
-        QTest::newRow("an arrow") << boxed(AnnotationKind::Arrow, box) << false;
+        test::row("filled rectangle", filled(AnnotationKind::Rectangle), true);
+        test::row("filled ellipse", filled(AnnotationKind::Ellipse), true);
+        test::row("outlined", boxed(AnnotationKind::Rectangle, box), false);
+        test::row("highlighted", boxed(AnnotationKind::Highlight, box), false);
+        test::row("an arrow", boxed(AnnotationKind::Arrow, box), false);
     }
 
     void whatReadsTheCaptureSeesTheCovers()
@@ -179,10 +174,9 @@ private Q_SLOTS:
 
     void blackStandsInForAPicture_data()
     {
-        QTest::addColumn<QRectF>("rect");
-        QTest::addColumn<bool>("withSource");
-        QTest::newRow("no capture to sample") << QRectF(2, 2, 4, 4) << false;
-        QTest::newRow("less than a point wide") << QRectF(2, 2, 0.9, 4) << true;
+        test::columns<QRectF, bool>("rect", "withSource");
+        test::row("no capture to sample", QRectF(2, 2, 4, 4), false);
+        test::row("less than a point wide", QRectF(2, 2, 0.9, 4), true);
     }
 
     void blackStandsInForAPicture()

@@ -2,11 +2,11 @@
 #include "core/Rendering/LiveCanvas.h"
 #include "core/Rendering/FrameComposition.h"
 #include "tests/support/DrawnMarks.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <array>
 #include <limits>
@@ -176,8 +176,7 @@ class LiveCanvasTest : public QObject {
 private Q_SLOTS:
     void showsWhatIsExported_data()
     {
-        QTest::addColumn<LiveScene>("scene");
-        QTest::addColumn<double>("scale");
+        test::columns<LiveScene, double>("scene", "scale");
         for (const double scale : { 1.0, 2.0, 1.25 })
             addScenes(scale);
     }
@@ -200,18 +199,17 @@ private Q_SLOTS:
 
     void editsComeToTheSame_data()
     {
-        QTest::addColumn<LiveScene>("scene");
-        QTest::addColumn<double>("scale");
+        test::columns<LiveScene, double>("scene", "scale");
         LiveScene plain = sceneOf(test::noisyCapture({ 960, 640 }), test::oneOfEachKind());
-        QTest::newRow("plain") << plain << 1.0;
-        QTest::newRow("zoomed out") << plain << 0.37;
-        QTest::newRow("zoomed in") << plain << 1.7;
+        test::row("plain", plain, 1.0);
+        test::row("zoomed out", plain, 0.37);
+        test::row("zoomed in", plain, 1.7);
         LiveScene framed = plain;
         framed.frame = FrameStyle();
         framed.watermark = Watermark { .text = QStringLiteral("T"), .position = WatermarkPosition::Tile };
-        QTest::newRow("framed") << framed << 1.0;
+        test::row("framed", framed, 1.0);
         framed.image = translucent(plain.image);
-        QTest::newRow("translucent on a frame") << framed << 0.8;
+        test::row("translucent on a frame", framed, 0.8);
     }
 
     /// Also: only what is reported as changed has changed.
@@ -243,8 +241,7 @@ private Q_SLOTS:
 
     void dragsComeToTheSame_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<bool>("framed");
+        test::columns<AnnotationKind, bool>("kind", "framed");
         for (const auto &kind : enumNames<AnnotationKind>)
             QTest::addRow("%s", kind.raw.data()) << kind.value << (kind.value == AnnotationKind::Text);
     }
@@ -298,16 +295,15 @@ private Q_SLOTS:
 
     void survives_data()
     {
-        QTest::addColumn<QSize>("image");
-        QTest::addColumn<LiveView>("view");
+        test::columns<QSize, LiveView>("image", "view");
         const QPoint far(std::numeric_limits<int>::max(), std::numeric_limits<int>::min());
-        QTest::newRow("no image") << QSize() << viewOf({ 30, 20 }, 1);
-        QTest::newRow("no window") << QSize(30, 20) << viewOf({ 0, 20 }, 1);
-        QTest::newRow("scrolled away") << QSize(30, 20) << viewOf({ 30, 20 }, 1, far);
-        QTest::newRow("no scale") << QSize(30, 20) << viewOf({ 30, 20 }, 0);
-        QTest::newRow("infinite scale") << QSize(30, 20) << viewOf({ 30, 20 }, std::numeric_limits<double>::infinity());
-        QTest::newRow("tiny") << QSize(30, 20) << viewOf({ 30, 20 }, 1e-9);
-        QTest::newRow("huge") << QSize(30, 20) << viewOf({ 30, 20 }, 1e5);
+        test::row("no image", QSize(), viewOf({ 30, 20 }, 1));
+        test::row("no window", QSize(30, 20), viewOf({ 0, 20 }, 1));
+        test::row("scrolled away", QSize(30, 20), viewOf({ 30, 20 }, 1, far));
+        test::row("no scale", QSize(30, 20), viewOf({ 30, 20 }, 0));
+        test::row("infinite scale", QSize(30, 20), viewOf({ 30, 20 }, std::numeric_limits<double>::infinity()));
+        test::row("tiny", QSize(30, 20), viewOf({ 30, 20 }, 1e-9));
+        test::row("huge", QSize(30, 20), viewOf({ 30, 20 }, 1e5));
     }
 
     void survives()

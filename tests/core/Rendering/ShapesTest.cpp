@@ -2,8 +2,7 @@
 #include "core/Annotation/AnnotationGeometry.h"
 #include "tests/support/DrawnMarks.h"
 #include "tests/support/PictureText.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -44,37 +43,36 @@ class ShapesTest : public QObject {
 private Q_SLOTS:
     void fillsItsExactArea_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<double>("area");
+        test::columns<Annotation, double>("mark", "area");
         constexpr double pi = std::numbers::pi;
         const double lean = std::sqrt(0.5);
 
         // Tail triangle of 82 × 8.4, head of 18 × 16.
-        QTest::newRow("tapered, thin: the smallest head")
-            << arrow(ArrowHeadStyle::Tapered, 4) << 82 * 4.2 + 18 * 16 / 2.0;
-        QTest::newRow("tapered, wide") << arrow(ArrowHeadStyle::Tapered, 10) << 66 * 10.5 + 34 * 36 / 2.0;
-        QTest::newRow("tapered, slanted and backwards") << arrow(ArrowHeadStyle::Tapered, 4, QPointF(100, 90),
-            QPointF(100 - 100 * lean, 90 - 100 * lean)) << 82 * 4.2 + 18 * 16 / 2.0;
-        QTest::newRow("tapered without length: the head alone")
-            << arrow(ArrowHeadStyle::Tapered, 4, QPointF(60, 50), QPointF(60, 50)) << 0.0;
+        test::row("tapered, thin: the smallest head", arrow(ArrowHeadStyle::Tapered, 4), 82 * 4.2 + 18 * 16 / 2.0);
+        test::row("tapered, wide", arrow(ArrowHeadStyle::Tapered, 10), 66 * 10.5 + 34 * 36 / 2.0);
+        test::row("tapered, slanted and backwards",
+            arrow(ArrowHeadStyle::Tapered, 4, QPointF(100, 90), QPointF(100 - 100 * lean, 90 - 100 * lean)),
+            82 * 4.2 + 18 * 16 / 2.0);
+        test::row("tapered without length: the head alone",
+            arrow(ArrowHeadStyle::Tapered, 4, QPointF(60, 50), QPointF(60, 50)), 0.0);
         // The shaft is covered by the head from 88 on; its tail end is round.
-        QTest::newRow("filled") << arrow(ArrowHeadStyle::Filled, 4) << 88 * 4 + 2 * pi + 12 * 11 / 2.0;
+        test::row("filled", arrow(ArrowHeadStyle::Filled, 4), 88 * 4 + 2 * pi + 12 * 11 / 2.0);
         // The head keeps 6.6 of its 12 in the middle; the shaft ends at 89.8 with another half disc, clear of the head.
-        QTest::newRow("concave") << arrow(ArrowHeadStyle::Concave, 4) << 89.8 * 4 + 4 * pi + 6.6 * 11 / 2.0;
-        QTest::newRow("line") << black(AnnotationKind::Line, { 20, 50 }, { 120, 50 }) << 400 + 4 * pi;
-        QTest::newRow("line without length: a dot") << black(AnnotationKind::Line, { 60, 50 }, { 60, 50 }) << 4 * pi;
+        test::row("concave", arrow(ArrowHeadStyle::Concave, 4), 89.8 * 4 + 4 * pi + 6.6 * 11 / 2.0);
+        test::row("line", black(AnnotationKind::Line, { 20, 50 }, { 120, 50 }), 400 + 4 * pi);
+        test::row("line without length: a dot", black(AnnotationKind::Line, { 60, 50 }, { 60, 50 }), 4 * pi);
 
         Annotation pen = black(AnnotationKind::Pen, {}, {});
         pen.points = { { 20, 50 }, { 20, 50 }, { 120, 50 }, { 40, 50 } };
-        QTest::newRow("pen: a stroke over itself is filled once") << pen << 400 + 4 * pi;
+        test::row("pen: a stroke over itself is filled once", pen, 400 + 4 * pi);
         Annotation box = black(AnnotationKind::Ellipse, { 120, 80 }, { 20, 20 });
         box.filled = true;
-        QTest::newRow("ellipse dragged from the bottom right") << box << pi * 50 * 30;
+        test::row("ellipse dragged from the bottom right", box, pi * 50 * 30);
         box.filled = false;
         box.lineWidth = 2;
         box.p1 = { 100, 100 };
-        QTest::newRow("ring") << box << pi * (41 * 41 - 39 * 39);
-        QTest::newRow("pen without points") << black(AnnotationKind::Pen, { 20, 20 }, { 90, 90 }) << 0.0;
+        test::row("ring", box, pi * (41 * 41 - 39 * 39));
+        test::row("pen without points", black(AnnotationKind::Pen, { 20, 20 }, { 90, 90 }), 0.0);
     }
 
     void fillsItsExactArea()
@@ -91,39 +89,36 @@ private Q_SLOTS:
 
     void doubleHeadsAndCurves_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<QList<QPointF>>("inked");
-        QTest::addColumn<QList<QPointF>>("blank");
+        test::columns<Annotation, QList<QPointF>, QList<QPointF>>("mark", "inked", "blank");
         using Points = QList<QPointF>;
 
         Annotation twin = arrow(ArrowHeadStyle::Tapered, 10);
         twin.doubleHeaded = true;
         // Heads of 34 × 36 at both ends; a straight shaft has no points but its ends, so it is as wide as there.
-        QTest::newRow("tapered twin") << twin << Points { { 53, 66 }, { 87, 34 }, { 70, 59.5 } }
-                                      << Points { { 70, 62 }, { 70, 38 }, { 56, 62 }, { 16, 50 } };
+        test::row("tapered twin", twin, Points { { 53, 66 }, { 87, 34 }, { 70, 59.5 } },
+            Points { { 70, 62 }, { 70, 38 }, { 56, 62 }, { 16, 50 } });
         Annotation bow = arrow(ArrowHeadStyle::Tapered, 10, { 20, 100 }, { 320, 100 });
         bow.curved = bow.doubleHeaded = true;
         // The curve runs level at 34 in the middle, where it is 0.55 · 10.5 wide on either side.
-        QTest::newRow("tapered bow") << bow << Points { { 170, 39 }, { 170, 29 } }
-                                     << Points { { 170, 41 }, { 170, 27 } };
+        test::row("tapered bow", bow, Points { { 170, 39 }, { 170, 29 } }, Points { { 170, 41 }, { 170, 27 } });
         Annotation curve = arrow(ArrowHeadStyle::Filled, 4, { 20, 100 }, { 120, 100 });
         curve.curved = true;
         // The handle lies 0.22 of the length above the middle; the head follows the end of the curve.
-        QTest::newRow("curve bends over its handle") << curve << Points { { 70, 78 }, { 118, 98.5 }, { 45, 83.5 } }
-                                                     << Points { { 70, 100 }, { 70, 74 }, { 100, 100 } };
+        test::row("curve bends over its handle", curve, Points { { 70, 78 }, { 118, 98.5 }, { 45, 83.5 } },
+            Points { { 70, 100 }, { 70, 74 }, { 100, 100 } });
         curve.curveHandle = { 0.5, 0.22 };
         curve.p1.setY(20);
         curve.p2.setY(20);
         curve.arrowHead = ArrowHeadStyle::Tapered;
-        QTest::newRow("other side, tapered")
-            << curve << Points { { 70, 42 }, { 111, 28 } } << Points { { 70, 20 }, { 20, 22.5 } };
+        test::row(
+            "other side, tapered", curve, Points { { 70, 42 }, { 111, 28 } }, Points { { 70, 20 }, { 20, 22.5 } });
         Annotation open = arrow(ArrowHeadStyle::Open, 4);
         open.doubleHeaded = true; // along a path a head is at least 14 long
-        QTest::newRow("open twin") << open << Points { { 34, 55.5 }, { 106, 44.5 }, { 70, 50 } }
-                                   << Points { { 36, 57.5 }, { 26, 59 }, { 70, 53 } };
+        test::row("open twin", open, Points { { 34, 55.5 }, { 106, 44.5 }, { 70, 50 } },
+            Points { { 36, 57.5 }, { 26, 59 }, { 70, 53 } });
         Annotation folded = arrow(ArrowHeadStyle::Tapered, 10, { 60, 50 }, { 80, 50 });
         folded.doubleHeaded = true;
-        QTest::newRow("two heads longer than the arrow") << folded << Points { { 70, 50 } } << Points { { 70, 90 } };
+        test::row("two heads longer than the arrow", folded, Points { { 70, 50 } }, Points { { 70, 90 } });
     }
 
     void doubleHeadsAndCurves()
@@ -160,24 +155,18 @@ private Q_SLOTS:
 
     void boxes_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<QRectF>("rect");
-        QTest::addColumn<bool>("filled");
-        QTest::addColumn<QStringList>("picture");
+        test::columns<AnnotationKind, QRectF, bool, QStringList>("kind", "rect", "filled", "picture");
 
-        QTest::newRow("outline lies on its edge")
-            << AnnotationKind::Rectangle << QRectF(1, 1, 6, 4) << false
-            << QStringList { "########", "########", "###..###", "###..###", "########", "########" };
-        QTest::newRow("dragged from the bottom right")
-            << AnnotationKind::Highlight << QRectF(7, 5, -6, -4) << false
-            << QStringList { "........", ".######.", ".######.", ".######.", ".######.", "........" };
-        QTest::newRow("filled box has no sharp corner")
-            << AnnotationKind::Rectangle << QRectF(0, 0, 8, 6) << true
-            << QStringList { "########", "########", "########", "########", "########", "########" };
-        QTest::newRow("an empty drag draws nothing")
-            << AnnotationKind::Rectangle << QRectF(2, 2, 0, 0) << false << QStringList(6, "........");
-        QTest::newRow("nor does an empty highlight")
-            << AnnotationKind::Highlight << QRectF(2, 2, 0, 3) << false << QStringList(6, "........");
+        test::row("outline lies on its edge", AnnotationKind::Rectangle, QRectF(1, 1, 6, 4), false,
+            QStringList { "########", "########", "###..###", "###..###", "########", "########" });
+        test::row("dragged from the bottom right", AnnotationKind::Highlight, QRectF(7, 5, -6, -4), false,
+            QStringList { "........", ".######.", ".######.", ".######.", ".######.", "........" });
+        test::row("filled box has no sharp corner", AnnotationKind::Rectangle, QRectF(0, 0, 8, 6), true,
+            QStringList { "########", "########", "########", "########", "########", "########" });
+        test::row("an empty drag draws nothing", AnnotationKind::Rectangle, QRectF(2, 2, 0, 0), false,
+            QStringList(6, "........"));
+        test::row("nor does an empty highlight", AnnotationKind::Highlight, QRectF(2, 2, 0, 3), false,
+            QStringList(6, "........"));
     }
 
     void boxes()

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/EmojiClusters.h"
 #include "tests/support/DrawnMarks.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -41,9 +40,7 @@ class StampsTest : public QObject {
 private Q_SLOTS:
     void glyphsSitInTheMiddle_data()
     {
-        QTest::addColumn<StampKind>("kind");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("disc");
+        test::columns<StampKind, QString, bool>("kind", "text", "disc");
         for (const bool disc : { true, false }) {
             const char *where = disc ? "on a disc" : "alone";
             for (const auto &kind : enumNames<StampKind>) {
@@ -79,14 +76,12 @@ private Q_SLOTS:
 
     void readsOnEveryBackground_data()
     {
-        QTest::addColumn<QColor>("background");
-        QTest::addColumn<QString>("color");
-        QTest::addColumn<bool>("disc");
-        QTest::newRow("pink on pink") << QColor(0xff, 0x33, 0x66) << "#FF3366" << false;
-        QTest::newRow("black on black") << QColor(0, 0, 0) << "#000000" << false;
-        QTest::newRow("white on white") << QColor(255, 255, 255) << "#FFFFFF" << false;
-        QTest::newRow("yellow on yellow") << QColor(255, 214, 10) << "#FFD60A" << false;
-        QTest::newRow("a white disc") << QColor(0, 0, 0) << "#FFFFFF" << true;
+        test::columns<QColor, QString, bool>("background", "color", "disc");
+        test::row("pink on pink", QColor(0xff, 0x33, 0x66), "#FF3366", false);
+        test::row("black on black", QColor(0, 0, 0), "#000000", false);
+        test::row("white on white", QColor(255, 255, 255), "#FFFFFF", false);
+        test::row("yellow on yellow", QColor(255, 214, 10), "#FFD60A", false);
+        test::row("a white disc", QColor(0, 0, 0), "#FFFFFF", true);
     }
 
     void readsOnEveryBackground()
@@ -126,12 +121,12 @@ private Q_SLOTS:
     void stickersFillTheirBoxInColour_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("one character") << QStringLiteral("🎉");
-        QTest::newRow("joined") << QStringLiteral("👩‍🚀");
-        QTest::newRow("keycap") << QStringLiteral("1️⃣");
-        QTest::newRow("skin tone") << QStringLiteral("👍🏽");
-        QTest::newRow("flag") << QStringLiteral("🇩🇪");
-        QTest::newRow("made emoji by a selector") << QStringLiteral("❤️");
+        test::row("one character", QStringLiteral("🎉"));
+        test::row("joined", QStringLiteral("👩‍🚀"));
+        test::row("keycap", QStringLiteral("1️⃣"));
+        test::row("skin tone", QStringLiteral("👍🏽"));
+        test::row("flag", QStringLiteral("🇩🇪"));
+        test::row("made emoji by a selector", QStringLiteral("❤️"));
     }
 
     void stickersFillTheirBoxInColour()
@@ -158,16 +153,15 @@ private Q_SLOTS:
 
     void findsEmojiInTexts_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QList<TextSpan>>("spans");
+        test::columns<QString, QList<TextSpan>>("text", "spans");
         using Spans = QList<TextSpan>;
-        QTest::newRow("none") << QStringLiteral("Grüße 123 世界 ✓") << Spans {};
-        QTest::newRow("between letters") << QStringLiteral("a👍🏽b") << Spans { { 1, 4 } };
-        QTest::newRow("neighbours are one") << QStringLiteral("🎉🇩🇪") << Spans { { 0, 6 } };
-        QTest::newRow("a keycap takes its digit along") << QStringLiteral("11️⃣") << Spans { { 1, 3 } };
-        QTest::newRow("a heart is text until asked") << QStringLiteral("❤ ❤️") << Spans { { 2, 2 } };
-        QTest::newRow("an emoji asked to be text") << QStringLiteral("⚡\uFE0E") << Spans {};
-        QTest::newRow("half a pair") << QString(QChar(0xd83d)) << Spans {};
+        test::row("none", QStringLiteral("Grüße 123 世界 ✓"), Spans {});
+        test::row("between letters", QStringLiteral("a👍🏽b"), Spans { { 1, 4 } });
+        test::row("neighbours are one", QStringLiteral("🎉🇩🇪"), Spans { { 0, 6 } });
+        test::row("a keycap takes its digit along", QStringLiteral("11️⃣"), Spans { { 1, 3 } });
+        test::row("a heart is text until asked", QStringLiteral("❤ ❤️"), Spans { { 2, 2 } });
+        test::row("an emoji asked to be text", QStringLiteral("⚡\uFE0E"), Spans {});
+        test::row("half a pair", QString(QChar(0xd83d)), Spans {});
     }
 
     void findsEmojiInTexts()

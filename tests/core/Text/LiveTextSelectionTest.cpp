@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Text/LiveTextSelection.h"
+#include "tests/support/Rows.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -60,10 +60,8 @@ class LiveTextSelectionTest : public QObject {
 private Q_SLOTS:
     void draggingSelectsInReadingOrder_data()
     {
-        QTest::addColumn<QStringList>("page");
-        QTest::addColumn<QPointF>("from"); // column and row of a character
-        QTest::addColumn<QPointF>("to");
-        QTest::addColumn<QString>("text");
+        // from: column and row of a character
+        test::columns<QStringList, QPointF, QPointF, QString>("page", "from", "to", "text");
         const auto row = [](const char *name, const QStringList &page, QPointF from, QPointF to, const char *text) {
             QTest::newRow(name) << page << from << to << text;
         };
@@ -120,13 +118,12 @@ private Q_SLOTS:
 
     void thePointerIsOverTextOnAndBetweenWords_data()
     {
-        QTest::addColumn<QPointF>("at");
-        QTest::addColumn<bool>("isOver");
-        QTest::newRow("on a word") << QPointF(1, 0) << true;
-        QTest::newRow("between words") << QPointF(3, 0) << true;
-        QTest::newRow("in a wide gap") << QPointF(10, 0) << false;
-        QTest::newRow("beside a line") << QPointF(12, 1) << false;
-        QTest::newRow("between lines") << QPointF(1, 0.5) << false;
+        test::columns<QPointF, bool>("at", "isOver");
+        test::row("on a word", QPointF(1, 0), true);
+        test::row("between words", QPointF(3, 0), true);
+        test::row("in a wide gap", QPointF(10, 0), false);
+        test::row("beside a line", QPointF(12, 1), false);
+        test::row("between lines", QPointF(1, 0.5), false);
     }
 
     void thePointerIsOverTextOnAndBetweenWords()
@@ -174,16 +171,13 @@ private Q_SLOTS:
 
     void wordsAreJoinedAsTheLineWritesThem_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("with blanks") << "a b" << QStringList { "a", "b" } << "a b";
-        QTest::newRow("without") << QString::fromUtf8("你好世界")
-                                 << QStringList { QString::fromUtf8("你好"), QString::fromUtf8("世界") }
-                                 << QString::fromUtf8("你好世界");
-        QTest::newRow("a word that the line lacks") << "a c" << QStringList { "a", "b", "c" } << "a b c";
-        QTest::newRow("the same word again") << "aa a" << QStringList { "a", "a", "a" } << "aa a";
-        QTest::newRow("no words") << "a whole line" << QStringList() << "a whole line";
+        test::columns<QString, QStringList, QString>("line", "words", "text");
+        test::row("with blanks", "a b", QStringList { "a", "b" }, "a b");
+        test::row("without", QString::fromUtf8("你好世界"),
+            QStringList { QString::fromUtf8("你好"), QString::fromUtf8("世界") }, QString::fromUtf8("你好世界"));
+        test::row("a word that the line lacks", "a c", QStringList { "a", "b", "c" }, "a b c");
+        test::row("the same word again", "aa a", QStringList { "a", "a", "a" }, "aa a");
+        test::row("no words", "a whole line", QStringList(), "a whole line");
     }
 
     void wordsAreJoinedAsTheLineWritesThem()

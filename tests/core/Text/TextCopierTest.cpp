@@ -2,8 +2,7 @@
 #include "core/Text/TextCopier.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakeRecognition.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 using namespace tessaly::test;
@@ -46,24 +45,20 @@ class TextCopierTest : public QObject {
 private Q_SLOTS:
     void whatIsFoundIsCopiedAndTold_data()
     {
-        QTest::addColumn<std::optional<RecognizedContent>>("found"); // empty: recognising failed
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("link");
-        QTest::addColumn<QString>("notice");
+        // found: empty: recognising failed
+        columns<std::optional<RecognizedContent>, QByteArray, QByteArray, QString>("found", "text", "link", "notice");
         using Found = std::optional<RecognizedContent>;
-        QTest::newRow("text") << Found(content({ "Grüße", "an alle" })) << QByteArray("Grüße\nan alle") << QByteArray()
-                              << "Text copied to clipboard";
-        QTest::newRow("a link goes before text")
-            << Found(content({ "scan me" }, { "https://example.org/ä" })) << QByteArray("https://example.org/ä")
-            << QByteArray("https://example.org/%C3%A4\r\n") << "QR code link copied|example.org";
-        QTest::newRow("two codes, one of them a link")
-            << Found(content({}, { "https://example.org", "12345" })) << QByteArray("https://example.org\n12345")
-            << QByteArray() << "Code content copied to clipboard";
-        QTest::newRow("a code that is no link")
-            << Found(content({ "x" }, { "ftp://example.org" })) << QByteArray("ftp://example.org") << QByteArray()
-            << "Code content copied to clipboard";
-        QTest::newRow("nothing") << Found(content({})) << QByteArray("earlier") << QByteArray() << "No text found";
-        QTest::newRow("failed") << Found() << QByteArray("earlier") << QByteArray() << "No text found";
+        row("text", Found(content({ "Grüße", "an alle" })), QByteArray("Grüße\nan alle"), QByteArray(),
+            "Text copied to clipboard");
+        row("a link goes before text", Found(content({ "scan me" }, { "https://example.org/ä" })),
+            QByteArray("https://example.org/ä"), QByteArray("https://example.org/%C3%A4\r\n"),
+            "QR code link copied|example.org");
+        row("two codes, one of them a link", Found(content({}, { "https://example.org", "12345" })),
+            QByteArray("https://example.org\n12345"), QByteArray(), "Code content copied to clipboard");
+        row("a code that is no link", Found(content({ "x" }, { "ftp://example.org" })), QByteArray("ftp://example.org"),
+            QByteArray(), "Code content copied to clipboard");
+        row("nothing", Found(content({})), QByteArray("earlier"), QByteArray(), "No text found");
+        row("failed", Found(), QByteArray("earlier"), QByteArray(), "No text found");
     }
 
     void whatIsFoundIsCopiedAndTold()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/DesktopLinks.h"
 
+#include "tests/support/QuietBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
@@ -42,20 +44,22 @@ class DesktopLinksTest : public QObject {
     QTemporaryDir m_folder;
     FakeFileManager m_manager;
     QList<QUrl> m_opened;
+    QByteArray m_inherited; ///< by what was opened
     DesktopLinks m_links;
 
 public Q_SLOTS:
-    void take(const QUrl &url) { m_opened += url; }
+    void take(const QUrl &url)
+    {
+        m_opened += url;
+        m_inherited = qgetenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT");
+    }
 
 private Q_SLOTS:
     void initTestCase()
     {
         QDesktopServices::setUrlHandler("https", this, "take");
         QDesktopServices::setUrlHandler("file", this, "take");
-        m_bus.start("dbus-daemon", { "--session", "--nofork", "--print-address" });
-        while (!m_bus.canReadLine())
-            QVERIFY(m_bus.waitForReadyRead());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", test::startQuietBus(m_bus, m_folder));
     }
 
     void init()
@@ -73,8 +77,11 @@ private Q_SLOTS:
 
     void linksGoToTheDesktop()
     {
+        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1"); // meant for this program alone
         QVERIFY(m_links.open(QUrl("https://example.org/a%20b")));
         QCOMPARE(m_opened, QList { QUrl("https://example.org/a%20b") });
+        QCOMPARE(m_inherited, QByteArray());
+        QCOMPARE(qgetenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT"), "1");
     }
 
     void aFileIsShownInItsFolder()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/PortalSharing.h"
 
+#include "tests/support/QuietBus.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -63,10 +65,8 @@ class PortalSharingTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        m_bus.start("dbus-daemon", { "--session", "--nofork", "--print-address" });
-        while (!m_bus.canReadLine())
-            QVERIFY(m_bus.waitForReadyRead());
-        const QByteArray address = m_bus.readLine().trimmed();
+        const QByteArray address = test::startQuietBus(m_bus, m_folder);
+        QVERIFY(!address.isEmpty());
         qunsetenv("DBUS_SESSION_BUS_ADDRESS");
         qputenv("XDG_RUNTIME_DIR", m_folder.path().toLocal8Bit());
         QVERIFY(!PortalSharing().isAvailable()); // no bus, and none is started

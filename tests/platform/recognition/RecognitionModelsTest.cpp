@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/recognition/RecognitionModels.h"
+#include "tests/support/Rows.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -13,55 +13,20 @@ class RecognitionModelsTest : public QObject {
 private Q_SLOTS:
     void choosesByTheUsersLanguages_data()
     {
-        QTest::addColumn<QString>("preferred");
-        QTest::addColumn<QString>("installed");
-        QTest::addColumn<QString>("models");
-        QTest::addColumn<QString>("package"); // that the notice names
+        // package: that the notice names
+        test::columns<QString, QString, QString, QString>("preferred", "installed", "models", "package");
 
-        QTest::newRow("in the user's order") << "es-MX en-US"
-                                             << "eng spa"
-                                             << "spa eng"
-                                             << "";
-        QTest::newRow("each once") << "en-GB en-US en"
-                                   << "eng"
-                                   << "eng"
-                                   << "";
-        QTest::newRow("script told by the territory") << "zh-TW"
-                                                      << "chi_sim chi_tra"
-                                                      << "chi_tra"
-                                                      << "";
-        QTest::newRow("not installed: English") << "de-AT"
-                                                << "eng spa"
-                                                << "eng"
-                                                << "tesseract-ocr-deu";
-        QTest::newRow("not installed: any") << "de"
-                                            << "spa"
-                                            << "spa"
-                                            << "tesseract-ocr-deu";
-        QTest::newRow("one of two missing") << "fr es"
-                                            << "eng spa"
-                                            << "spa"
-                                            << "tesseract-ocr-fra";
-        QTest::newRow("a package with a dash") << "zh-CN"
-                                               << "eng"
-                                               << "eng"
-                                               << "tesseract-ocr-chi-sim";
-        QTest::newRow("Norwegian by either name") << "nn nb"
-                                                  << "eng nor"
-                                                  << "nor"
-                                                  << "";
-        QTest::newRow("a language without a model") << "tlh"
-                                                    << "eng"
-                                                    << "eng"
-                                                    << "";
-        QTest::newRow("no preference") << ""
-                                       << "deu eng"
-                                       << "eng"
-                                       << "";
-        QTest::newRow("nothing installed") << ""
-                                           << ""
-                                           << ""
-                                           << "";
+        test::row("in the user's order", "es-MX en-US", "eng spa", "spa eng", "");
+        test::row("each once", "en-GB en-US en", "eng", "eng", "");
+        test::row("script told by the territory", "zh-TW", "chi_sim chi_tra", "chi_tra", "");
+        test::row("not installed: English", "de-AT", "eng spa", "eng", "tesseract-ocr-deu");
+        test::row("not installed: any", "de", "spa", "spa", "tesseract-ocr-deu");
+        test::row("one of two missing", "fr es", "eng spa", "spa", "tesseract-ocr-fra");
+        test::row("a package with a dash", "zh-CN", "eng", "eng", "tesseract-ocr-chi-sim");
+        test::row("Norwegian by either name", "nn nb", "eng nor", "nor", "");
+        test::row("a language without a model", "tlh", "eng", "eng", "");
+        test::row("no preference", "", "deu eng", "eng", "");
+        test::row("nothing installed", "", "", "", "");
     }
 
     void choosesByTheUsersLanguages()

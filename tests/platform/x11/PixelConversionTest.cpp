@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/PixelConversion.h"
-
-#include <QTest>
+#include "tests/support/Rows.h"
 
 using namespace tessaly;
 
@@ -11,16 +10,12 @@ class PixelConversionTest : public QObject {
 private Q_SLOTS:
     void readsTrueColorLayouts_data()
     {
-        QTest::addColumn<int>("bitsPerPixel");
-        QTest::addColumn<QList<uint>>("masks");
-        QTest::addColumn<uint>("pixel");
-        QTest::addColumn<QRgb>("expected");
+        test::columns<int, QList<uint>, uint, QRgb>("bitsPerPixel", "masks", "pixel", "expected");
 
-        QTest::newRow("RGB565 white") << 16 << QList<uint> { 0xf800, 0x07e0, 0x001f } << 0xffffu << 0xffffffffu;
-        QTest::newRow("RGB565 half green") << 16 << QList<uint> { 0xf800, 0x07e0, 0x001f } << 0x0400u << 0xff008200u;
-        QTest::newRow("30 bits, red only")
-            << 32 << QList<uint> { 0x3ff00000, 0xffc00, 0x3ff } << 0x3ff00000u << 0xffff0000u;
-        QTest::newRow("blue first") << 32 << QList<uint> { 0xff, 0xff00, 0xff0000 } << 0xAB112233u << 0xff332211u;
+        test::row("RGB565 white", 16, QList<uint> { 0xf800, 0x07e0, 0x001f }, 0xffffu, 0xffffffffu);
+        test::row("RGB565 half green", 16, QList<uint> { 0xf800, 0x07e0, 0x001f }, 0x0400u, 0xff008200u);
+        test::row("30 bits, red only", 32, QList<uint> { 0x3ff00000, 0xffc00, 0x3ff }, 0x3ff00000u, 0xffff0000u);
+        test::row("blue first", 32, QList<uint> { 0xff, 0xff00, 0xff0000 }, 0xAB112233u, 0xff332211u);
     }
 
     void readsTrueColorLayouts()

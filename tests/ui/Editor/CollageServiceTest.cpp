@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/CollageService.h"
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/EditorFixture.h"
 #include "ui/Editor/EditorWindowController.h"
-
-#include <QTest>
 
 using namespace tessaly;
 
@@ -36,20 +35,16 @@ private Q_SLOTS:
 
     void chosenPicturesAreJoined_data()
     {
-        QTest::addColumn<CollageLayout>("layout");
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QStringList>("failures"); ///< files that an alert names
+        // failures: files that an alert names
+        test::columns<CollageLayout, QStringList, QSize, QStringList>("layout", "names", "size", "failures");
         const QStringList both { "a.png", "b.png" };
         using enum CollageLayout;
-        QTest::newRow("side by side") << SideBySide << both << QSize(40 + 12 + 20, 20) << QStringList();
-        QTest::newRow("stacked") << Stacked << both << QSize(40, 20 + 12 + 40) << QStringList();
-        QTest::newRow("the readable ones of them")
-            << Stacked << QStringList { "broken1.png", "a.png", "gone.png", "b.png" } << QSize(40, 72)
-            << QStringList { "broken1.png", "gone.png" };
-        QTest::newRow("none of them") << SideBySide << QStringList { "broken2.png" } << QSize()
-                                      << QStringList { "broken2.png" };
-        QTest::newRow("nothing") << SideBySide << QStringList() << QSize() << QStringList();
+        test::row("side by side", SideBySide, both, QSize(40 + 12 + 20, 20), QStringList());
+        test::row("stacked", Stacked, both, QSize(40, 20 + 12 + 40), QStringList());
+        test::row("the readable ones of them", Stacked, QStringList { "broken1.png", "a.png", "gone.png", "b.png" },
+            QSize(40, 72), QStringList { "broken1.png", "gone.png" });
+        test::row("none of them", SideBySide, QStringList { "broken2.png" }, QSize(), QStringList { "broken2.png" });
+        test::row("nothing", SideBySide, QStringList(), QSize(), QStringList());
     }
 
     void chosenPicturesAreJoined()

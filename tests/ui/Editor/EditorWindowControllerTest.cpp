@@ -3,6 +3,7 @@
 
 #include "core/Document/TessalyDocument.h"
 #include "core/Export/ImageEncoder.h"
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/EditorFixture.h"
 #include "ui/Editor/EditorView.h"
 #include "ui/Editor/EditorWindow.h"
@@ -10,7 +11,6 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -114,8 +114,7 @@ class EditorWindowControllerTest : public QObject {
 private Q_SLOTS:
     void aBadFileChangesNoWindow_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Prepare>("prepare");
+        test::columns<QString, Prepare>("name", "prepare");
         const auto row = [](const char *title, const char *name, Prepare prepare) {
             QTest::newRow(title) << QString(name) << std::move(prepare);
         };
@@ -175,13 +174,11 @@ private Q_SLOTS:
 
     void aDocumentOpensWithAllItHolds_data()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<bool>("asCopy");
-        QTest::newRow("as it is") << QByteArray("{") << QByteArray("{") << false;
-        QTest::newRow("newer") << QByteArray("\"version\": 1") << QByteArray("\"version\": 2") << true;
-        QTest::newRow("with a mark of the future")
-            << QByteArray("\"annotations\": [") << QByteArray("\"annotations\": [7,") << true;
+        test::columns<QByteArray, QByteArray, bool>("before", "after", "asCopy");
+        test::row("as it is", QByteArray("{"), QByteArray("{"), false);
+        test::row("newer", QByteArray("\"version\": 1"), QByteArray("\"version\": 2"), true);
+        test::row(
+            "with a mark of the future", QByteArray("\"annotations\": ["), QByteArray("\"annotations\": [7,"), true);
     }
 
     void aDocumentOpensWithAllItHolds()
@@ -224,10 +221,9 @@ private Q_SLOTS:
 
     void closingAsksForEachUnsavedCapture_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("closed");
-        QTest::newRow("cancel") << 1 << false;
-        QTest::newRow("don't save") << 2 << true;
+        test::columns<int, bool>("answer", "closed");
+        test::row("cancel", 1, false);
+        test::row("don't save", 2, true);
     }
 
     void closingAsksForEachUnsavedCapture()
@@ -277,9 +273,8 @@ private Q_SLOTS:
     void whatIsNewIsKept_data()
     {
         using Open = std::function<void(test::EditorFixture &, EditorWindowController &)>;
-        QTest::addColumn<Open>("open");
-        QTest::addColumn<QStringList>("atOnce"); // titles in the history
-        QTest::addColumn<QStringList>("changed");
+        // atOnce: titles in the history
+        test::columns<Open, QStringList, QStringList>("open", "atOnce", "changed");
         const auto row = [](const char *name, const QStringList &atOnce, const QStringList &changed, Open open) {
             QTest::newRow(name) << open << atOnce << changed;
         };
@@ -375,10 +370,10 @@ private Q_SLOTS:
 
     void anEntryThatCannotBeRewrittenStaysAsItIs_data()
     {
-        QTest::addColumn<QByteArray>("json"); // empty: no document at all
-        QTest::addColumn<QString>("alert");
-        QTest::newRow("gone") << QByteArray() << "Couldn't open the document";
-        QTest::newRow("newer") << QByteArray("\"version\": 2") << "This document comes from a newer version of Tessaly";
+        // json: empty: no document at all
+        test::columns<QByteArray, QString>("json", "alert");
+        test::row("gone", QByteArray(), "Couldn't open the document");
+        test::row("newer", QByteArray("\"version\": 2"), "This document comes from a newer version of Tessaly");
     }
 
     void anEntryThatCannotBeRewrittenStaysAsItIs()

@@ -2,9 +2,8 @@
 #include "ui/Editor/UnsavedChangesAlert.h"
 
 #include "core/Annotation/AnnotationStore.h"
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/EditorFixture.h"
-
-#include <QTest>
 
 using namespace tessaly;
 using UnsavedChangesAlert::Answer;
@@ -16,17 +15,14 @@ class UnsavedChangesTest : public QObject {
 private Q_SLOTS:
     void eachAnswerDoesWhatItSays_data()
     {
-        QTest::addColumn<bool>("dirty");
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QString>("target"); // of the panel; empty cancels it
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("unsaved");
-        QTest::newRow("nothing to ask") << false << 1 << "" << int(Answer::Close) << false;
-        QTest::newRow("save") << true << 0 << "a.png" << int(Answer::Close) << false;
-        QTest::newRow("save, panel cancelled") << true << 0 << "" << int(Answer::Cancel) << true;
-        QTest::newRow("save, folder gone") << true << 0 << "gone/a.png" << int(Answer::Cancel) << true;
-        QTest::newRow("cancel") << true << 1 << "" << int(Answer::Cancel) << true;
-        QTest::newRow("don't save") << true << 2 << "" << int(Answer::Discard) << false;
+        // target: of the panel; empty cancels it
+        test::columns<bool, int, QString, int, bool>("dirty", "button", "target", "answer", "unsaved");
+        test::row("nothing to ask", false, 1, "", int(Answer::Close), false);
+        test::row("save", true, 0, "a.png", int(Answer::Close), false);
+        test::row("save, panel cancelled", true, 0, "", int(Answer::Cancel), true);
+        test::row("save, folder gone", true, 0, "gone/a.png", int(Answer::Cancel), true);
+        test::row("cancel", true, 1, "", int(Answer::Cancel), true);
+        test::row("don't save", true, 2, "", int(Answer::Discard), false);
     }
 
     void eachAnswerDoesWhatItSays()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 #include "ui/Export/DocumentFileDialog.h"
 #include "ui/Export/FileDialogParts.h"
 #include "ui/Export/SaveImageDialog.h"
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 using namespace tessaly;
@@ -52,20 +52,13 @@ private Q_SLOTS:
 
     void theNameFollowsTheFormat_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("renamed");
-        QTest::newRow("proposed") << "Screenshot.png"
-                                  << "Screenshot.jpg";
-        QTest::newRow("dots") << "at 12.30.05.png"
-                              << "at 12.30.05.jpg";
-        QTest::newRow("no extension") << "mine"
-                                      << "mine.jpg";
-        QTest::newRow("empty") << ""
-                               << "Screenshot.jpg";
-        QTest::newRow("extension alone") << ".png"
-                                         << "Screenshot.jpg";
-        QTest::newRow("another spelling") << "a.jpeg"
-                                          << "a.jpeg";
+        test::columns<QString, QString>("name", "renamed");
+        test::row("proposed", "Screenshot.png", "Screenshot.jpg");
+        test::row("dots", "at 12.30.05.png", "at 12.30.05.jpg");
+        test::row("no extension", "mine", "mine.jpg");
+        test::row("empty", "", "Screenshot.jpg");
+        test::row("extension alone", ".png", "Screenshot.jpg");
+        test::row("another spelling", "a.jpeg", "a.jpeg");
     }
 
     void theNameFollowsTheFormat()
@@ -83,15 +76,10 @@ private Q_SLOTS:
 
     void whatIsTypedIsWhatIsSaved_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<ExportFormat>("format");
-        QTest::newRow("no extension") << "a"
-                                      << "a.png" << ExportFormat::Png;
-        QTest::newRow("a date") << "12.30.05"
-                                << "12.30.05.png" << ExportFormat::Png;
-        QTest::newRow("another format") << "a.webp"
-                                        << "a.webp" << ExportFormat::Webp;
+        test::columns<QString, QString, ExportFormat>("typed", "name", "format");
+        test::row("no extension", "a", "a.png", ExportFormat::Png);
+        test::row("a date", "12.30.05", "12.30.05.png", ExportFormat::Png);
+        test::row("another format", "a.webp", "a.webp", ExportFormat::Webp);
     }
 
     void whatIsTypedIsWhatIsSaved()
@@ -112,13 +100,11 @@ private Q_SLOTS:
     /// The question is about the file that would be written, with its extension.
     void replacingIsAskedFor_data()
     {
-        QTest::addColumn<bool>("document");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("replaces");
-        QTest::newRow("an image, no") << false << "there" << false;
-        QTest::newRow("an image, yes") << false << "there.png" << true;
-        QTest::newRow("a document, no") << true << "doc" << false;
-        QTest::newRow("a document, yes") << true << "doc.tessaly" << true;
+        test::columns<bool, QString, bool>("document", "typed", "replaces");
+        test::row("an image, no", false, "there", false);
+        test::row("an image, yes", false, "there.png", true);
+        test::row("a document, no", true, "doc", false);
+        test::row("a document, yes", true, "doc.tessaly", true);
     }
 
     void replacingIsAskedFor()
@@ -143,17 +129,13 @@ private Q_SLOTS:
 
     void aDocumentOpensLikeAFile_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<bool>("chosen");
+        test::columns<QString, QString, bool>("entry", "way", "chosen");
         for (const char *way : { "double click", "Return", "button" }) {
             QTest::addRow("document by %s", way) << "doc.tessaly" << way << true;
             QTest::addRow("picture by %s", way) << "there.png" << way << true;
         }
-        QTest::newRow("folder by Return") << "sub"
-                                          << "Return" << false;
-        QTest::newRow("folder by double click") << "sub"
-                                                << "double click" << false;
+        test::row("folder by Return", "sub", "Return", false);
+        test::row("folder by double click", "sub", "double click", false);
     }
 
     void aDocumentOpensLikeAFile()
@@ -186,12 +168,10 @@ private Q_SLOTS:
 
     void picturesAreChosenInTheirOrder_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("accepts");
-        QTest::addColumn<QStringList>("chosen");
+        test::columns<QString, bool, QStringList>("typed", "accepts", "chosen");
         const QString both = QStringLiteral("\x22%1\x22 \x22%2\x22").arg(path("there.png"), path("also.png"));
-        QTest::newRow("two") << both << true << QStringList { path("there.png"), path("also.png") };
-        QTest::newRow("cancelled") << both << false << QStringList();
+        test::row("two", both, true, QStringList { path("there.png"), path("also.png") });
+        test::row("cancelled", both, false, QStringList());
     }
 
     void picturesAreChosenInTheirOrder()

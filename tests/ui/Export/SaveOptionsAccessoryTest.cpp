@@ -2,12 +2,12 @@
 #include "ui/Export/SaveOptionsAccessory.h"
 
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QSlider>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -34,13 +34,10 @@ class SaveOptionsAccessoryTest : public QObject {
 private Q_SLOTS:
     void theFormatDecidesOnTheQuality_data()
     {
-        QTest::addColumn<ExportFormat>("format");
-        QTest::addColumn<bool>("hasQuality");
-        QTest::addColumn<QString>("percent");
-        QTest::addColumn<bool>("namesLossless");
-        QTest::newRow("JPEG") << ExportFormat::Jpeg << true << "55%" << false;
-        QTest::newRow("WebP") << ExportFormat::Webp << true << "90%" << true;
-        QTest::newRow("GIF") << ExportFormat::Gif << false << "100%" << false;
+        test::columns<ExportFormat, bool, QString, bool>("format", "hasQuality", "percent", "namesLossless");
+        test::row("JPEG", ExportFormat::Jpeg, true, "55%", false);
+        test::row("WebP", ExportFormat::Webp, true, "90%", true);
+        test::row("GIF", ExportFormat::Gif, false, "100%", false);
     }
 
     void theFormatDecidesOnTheQuality()
@@ -88,8 +85,8 @@ private Q_SLOTS:
     void theDocumentIsOfferedForEditableCaptures_data()
     {
         QTest::addColumn<bool>("offered");
-        QTest::newRow("editable") << true;
-        QTest::newRow("plain image") << false;
+        test::row("editable", true);
+        test::row("plain image", false);
     }
 
     void theDocumentIsOfferedForEditableCaptures()

@@ -23,6 +23,12 @@ public:
     bool knows(CommandId command) const override { return known.contains(command); }
     bool canPerform(CommandId command) const override { return possible.contains(command); }
     void perform(CommandId command) override { performed += command; }
+    QList<MenuChoice> choices(CommandId command) const override
+    {
+        return command == CommandId::FullScreenOn ? QList<MenuChoice> { { "DP-1", "17" } } : QList<MenuChoice>();
+    }
+    void choose(CommandId, const QString &value) override { chosen += value; }
+    QStringList chosen;
 };
 
 } // namespace
@@ -149,7 +155,8 @@ private Q_SLOTS:
         for (const CommandRow &row : commandTable()) {
             const auto places = actions.action(row.id)->associatedObjects().size();
             const int expected = row.id == CommandId::Share ? 1 : 2; // the window and, of what is offered, one menu
-            QVERIFY2(places == expected || row.id == CommandId::OpenRecent, row.title);
+            const bool isSubmenu = row.id == CommandId::OpenRecent || row.id == CommandId::FullScreenOn;
+            QVERIFY2(places == expected || isSubmenu, row.title);
         }
     }
 
@@ -170,6 +177,21 @@ private Q_SLOTS:
         recent->actions().last()->trigger();
         Q_EMIT recent->aboutToShow();
         QVERIFY(m_recents.isEmpty() && !recent->actions().last()->isEnabled());
+    }
+
+    void displaysAreThoseOfTheTarget()
+    {
+        QMainWindow window;
+        CommandActions actions(&window, hooks());
+        fillMenuBar(*window.menuBar(), actions);
+        m_target.known = m_target.possible = { CommandId::FullScreenOn };
+        actions.refresh();
+        QMenu *displays = menuCalled(menuCalled(window.menuBar()->actions(), "&Capture")->actions(), "Full Screen on…");
+        QVERIFY(displays && displays->menuAction()->isEnabled());
+        Q_EMIT displays->aboutToShow();
+        QCOMPARE(textsOf(*displays), QStringList("DP-1"));
+        displays->actions().first()->trigger();
+        QCOMPARE(m_target.chosen, QStringList("17"));
     }
 
     void contextMenusAskTheirTarget()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Start/EntryTexts.h"
+#include "tests/support/Rows.h"
 
 #include <QLocale>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -16,15 +16,13 @@ private Q_SLOTS:
 
     void namesTheDay_data()
     {
-        QTest::addColumn<QDateTime>("created");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("now") << m_now << QStringLiteral("Today, 00:05");
-        QTest::newRow("minutes ago, before midnight")
-            << QDateTime(QDate(2024, 2, 29), QTime(23, 59)) << QStringLiteral("Yesterday, 23:59");
-        QTest::newRow("two days ago") << QDateTime(QDate(2024, 2, 28), QTime(23, 59))
-                                      << QStringLiteral("28/02/2024, 23:59");
-        QTest::newRow("a clock that was wrong")
-            << QDateTime(QDate(2031, 1, 2), QTime(8, 0)) << QStringLiteral("02/01/2031, 08:00");
+        test::columns<QDateTime, QString>("created", "text");
+        test::row("now", m_now, QStringLiteral("Today, 00:05"));
+        test::row("minutes ago, before midnight", QDateTime(QDate(2024, 2, 29), QTime(23, 59)),
+            QStringLiteral("Yesterday, 23:59"));
+        test::row("two days ago", QDateTime(QDate(2024, 2, 28), QTime(23, 59)), QStringLiteral("28/02/2024, 23:59"));
+        test::row(
+            "a clock that was wrong", QDateTime(QDate(2031, 1, 2), QTime(8, 0)), QStringLiteral("02/01/2031, 08:00"));
     }
 
     void namesTheDay()
@@ -51,13 +49,12 @@ private Q_SLOTS:
 
     void tellsHowLongCapturesAreKept_data()
     {
-        QTest::addColumn<double>("days");
-        QTest::addColumn<QString>("text");
+        test::columns<double, QString>("days", "text");
         const QString forever = QStringLiteral("Captures are kept only on this Mac, until you delete them.");
-        QTest::newRow("never deleted") << 0.0 << forever;
-        QTest::newRow("nonsense") << -3.0 << forever;
-        QTest::newRow("less than a day") << 0.9 << forever;
-        QTest::newRow("a month") << 30.0 << QStringLiteral("Captures are kept only on this Mac, for 30 days.");
+        test::row("never deleted", 0.0, forever);
+        test::row("nonsense", -3.0, forever);
+        test::row("less than a day", 0.9, forever);
+        test::row("a month", 30.0, QStringLiteral("Captures are kept only on this Mac, for 30 days."));
     }
 
     void tellsHowLongCapturesAreKept()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Start/StartView.h"
 
+#include "tests/support/Rows.h"
 #include "tests/ui/Start/StartFixture.h"
 
 #include <QTimer>
@@ -33,24 +34,19 @@ class StartViewTest : public QObject {
 private Q_SLOTS:
     void layoutFollowsSettingsAndEntries_data()
     {
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<QStringList>("titles");
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<bool>("showsGrid");
+        columns<bool, QStringList, QStringList, bool>("enabled", "titles", "texts", "showsGrid");
 
         const QString kept = QStringLiteral("Captures are kept only on this Mac, for 30 days.");
-        QTest::newRow("nothing yet") << true << QStringList()
-                                     << QStringList { QStringLiteral("No Recent Captures"),
-                                            QStringLiteral("Capture, mark up and share. Your recent captures will "
-                                                           "appear here."),
-                                            QStringLiteral("There are no captures in the history yet. ") + kept }
-                                     << false;
-        QTest::newRow("switched off, with old captures") << false << threeTitles
-                                                         << QStringList { QStringLiteral("Start a New Capture"),
-                                                                QStringLiteral("Capture, mark up and share."), kept }
-                                                         << false;
-        QTest::newRow("captures") << true << threeTitles << QStringList { QStringLiteral("Recent Captures"), kept }
-                                  << true;
+        row("nothing yet", true, QStringList(),
+            QStringList { QStringLiteral("No Recent Captures"),
+                QStringLiteral("Capture, mark up and share. Your recent captures will "
+                               "appear here."),
+                QStringLiteral("There are no captures in the history yet. ") + kept },
+            false);
+        row("switched off, with old captures", false, threeTitles,
+            QStringList { QStringLiteral("Start a New Capture"), QStringLiteral("Capture, mark up and share."), kept },
+            false);
+        row("captures", true, threeTitles, QStringList { QStringLiteral("Recent Captures"), kept }, true);
     }
 
     void layoutFollowsSettingsAndEntries()
@@ -171,9 +167,9 @@ private Q_SLOTS:
     void deletionHoldsInTheEnd_data()
     {
         QTest::addColumn<QString>("how");
-        QTest::newRow("after ten seconds") << QStringLiteral("time");
-        QTest::newRow("when the window closes") << QStringLiteral("close");
-        QTest::newRow("when the program quits") << QStringLiteral("quit");
+        row("after ten seconds", QStringLiteral("time"));
+        row("when the window closes", QStringLiteral("close"));
+        row("when the program quits", QStringLiteral("quit"));
     }
 
     void deletionHoldsInTheEnd()

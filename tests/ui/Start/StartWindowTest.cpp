@@ -17,10 +17,11 @@ using namespace tessaly::test;
 class RecordingProgram final : public CommandTarget {
 public:
     QList<CommandId> done;
+    QList<CommandId> more; ///< that it knows beside some
     bool knows(CommandId command) const override
     {
         return command == CommandId::NewTab || command == CommandId::NewCollageStacked || command == CommandId::Open
-            || command == CommandId::Quit;
+            || command == CommandId::Quit || more.contains(command);
     }
     bool canPerform(CommandId) const override { return true; }
     void perform(CommandId command) override { done += command; }
@@ -100,6 +101,28 @@ private Q_SLOTS:
         for (const Qt::Key key : { Qt::Key_O, Qt::Key_T, Qt::Key_Q })
             QTest::keyClick(window, key, Qt::ControlModifier);
         QCOMPARE(program.done, QList({ CommandId::Open, CommandId::Quit }));
+    }
+
+    void capturesComeFirstWhereThereAreAny()
+    {
+        StartFixture fixture;
+        RecordingProgram program;
+        program.more = { CommandId::CaptureRegion, CommandId::CaptureFullScreen };
+        StartWindowController start(
+            { fixture.history, fixture.settings, fixture.clipboard, fixture.exports, fixture.links, fixture.clock },
+            { .openFile = {}, .paste = {}, .openEntry = {}, .program = &program });
+        start.show();
+        QStringList buttons, tips;
+        for (QPushButton *button : StartFixture::window()->findChildren<QPushButton *>()) {
+            if (!button->isVisible() || button->accessibleName().isEmpty())
+                continue;
+            buttons += button->text();
+            tips += button->toolTip();
+        }
+        QCOMPARE(buttons.first(4), QStringList({ "Capture Region", "Full Screen", "Open…", "Paste" }));
+        QCOMPARE(tips.first(2), QStringList({ "Capture Region (Ctrl+Alt+4)", "Capture Full Screen (Ctrl+Alt+3)" }));
+        QTest::mouseClick(StartFixture::part<QPushButton>("capture-screen"), Qt::LeftButton);
+        QCOMPARE(program.done, QList({ CommandId::CaptureFullScreen }));
     }
 
     void closingIsToldWhenTheUserDoesIt()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Style/CalmStyle.h"
+#include "tests/support/Rows.h"
 #include "ui/Style/Palettes.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyleOptionSlider>
-#include <QTest>
 #include <QToolButton>
 
 #include <functional>
@@ -59,8 +59,7 @@ private Q_SLOTS:
 
     void showsItsState_data()
     {
-        QTest::addColumn<Maker>("make");
-        QTest::addColumn<bool>("dark");
+        test::columns<Maker, bool>("make", "dark");
         for (const bool dark : { false, true }) {
             const char *name = dark ? "dark" : "light";
             QTest::addRow("tool button, %s", name) << maker<QToolButton>() << dark;
@@ -97,13 +96,11 @@ private Q_SLOTS:
     /// The thumb must reach both ends, and never be too short to be held.
     void placesTheThumbOfAScrollBar_data()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QRect>("thumb");
-        QTest::newRow("at the start") << 0 << 100 << QRect(0, 0, 100, 12);
-        QTest::newRow("at the end") << 100 << 100 << QRect(100, 0, 100, 12);
-        QTest::newRow("a page of one in a hundred") << 0 << 1 << QRect(0, 0, 32, 12);
-        QTest::newRow("at the end with a short thumb") << 100 << 1 << QRect(168, 0, 32, 12);
+        test::columns<int, int, QRect>("value", "page", "thumb");
+        test::row("at the start", 0, 100, QRect(0, 0, 100, 12));
+        test::row("at the end", 100, 100, QRect(100, 0, 100, 12));
+        test::row("a page of one in a hundred", 0, 1, QRect(0, 0, 32, 12));
+        test::row("at the end with a short thumb", 100, 1, QRect(168, 0, 32, 12));
     }
 
     void placesTheThumbOfAScrollBar()

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Style/Icons.h"
+#include "tests/support/Rows.h"
 #include "ui/Style/Appearance.h"
 #include "ui/Style/Palettes.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -81,10 +81,7 @@ private Q_SLOTS:
 
     void takesThePalettesColor_data()
     {
-        QTest::addColumn<bool>("dark");
-        QTest::addColumn<QIcon::Mode>("mode");
-        QTest::addColumn<QIcon::State>("state");
-        QTest::addColumn<QColor>("color");
+        test::columns<bool, QIcon::Mode, QIcon::State, QColor>("dark", "mode", "state", "color");
         for (const bool dark : { false, true }) {
             const QPalette palette = dark ? Palettes::dark() : Palettes::light();
             const char *name = dark ? "dark" : "light";

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Style/Palettes.h"
 #include "core/Preferences/Settings.h"
+#include "tests/support/Rows.h"
 #include "ui/Style/Appearance.h"
 
 #include <QApplication>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <cmath>
 
@@ -61,9 +61,7 @@ class PalettesTest : public QObject {
 private Q_SLOTS:
     void isLegible_data()
     {
-        QTest::addColumn<QColor>("ink");
-        QTest::addColumn<QColor>("ground");
-        QTest::addColumn<double>("least");
+        test::columns<QColor, QColor, double>("ink", "ground", "least");
         for (const bool dark : { false, true }) {
             for (const Pair &pair : pairsOf(dark ? Palettes::dark() : Palettes::light()))
                 QTest::addRow("%s, %s", dark ? "dark" : "light", pair.name) << pair.ink << pair.ground << pair.least;
@@ -81,14 +79,12 @@ private Q_SLOTS:
 
     void followsTheSetting_data()
     {
-        QTest::addColumn<QString>("setting");
-        QTest::addColumn<bool>("platformIsDark");
-        QTest::addColumn<bool>("dark");
-        QTest::newRow("light on a dark platform") << "light" << true << false;
-        QTest::newRow("dark on a light platform") << "dark" << false << true;
-        QTest::newRow("the platform's light") << "system" << false << false;
-        QTest::newRow("the platform's dark") << "system" << true << true;
-        QTest::newRow("an unknown word is the platform's") << "sepia" << true << true;
+        test::columns<QString, bool, bool>("setting", "platformIsDark", "dark");
+        test::row("light on a dark platform", "light", true, false);
+        test::row("dark on a light platform", "dark", false, true);
+        test::row("the platform's light", "system", false, false);
+        test::row("the platform's dark", "system", true, true);
+        test::row("an unknown word is the platform's", "sepia", true, true);
     }
 
     void followsTheSetting()

@@ -15,7 +15,7 @@ class PlatformTextsTest : public QObject {
 
     static QRegularExpression foreignWords()
     {
-        return QRegularExpression(QStringLiteral("\\b(mac|macos|finder|dock|retina|system settings)\\b|[⌘⌥⌃⇧⌫]"),
+        return QRegularExpression(QStringLiteral("\\b(mac|macos|finder|dock|retina|system settings|menu bar icon)\\b|[⌘⌥⌃⇧⌫]"),
             QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Toast/WidgetToasts.h"
+#include "tests/support/FakeLayers.h"
 #include "ui/Toast/LinkToastView.h"
 #include "ui/Toast/ToastView.h"
 
@@ -116,6 +117,19 @@ private Q_SLOTS:
         QCOMPARE(shown<LinkToastView>().first()->findChild<QLabel *>("host")->text(), "new.example");
         toasts.show("Copied to clipboard", 1h);
         QVERIFY(!shown<LinkToastView>().first()->geometry().intersects(shown<ToastView>().first()->geometry()));
+    }
+
+    void windowsThatCannotPlaceThemselvesArePlaced()
+    {
+        test::FakeLayers layers;
+        WidgetToasts toasts;
+        toasts.setLayers(&layers);
+        toasts.show("Copied to clipboard", 1h);
+        toasts.showLink("QR code link copied", "example.org", [] {});
+        QWidget *link = shown<LinkToastView>().value(0);
+        QCOMPARE(layers.floats[link->windowHandle()].rects, QList { link->geometry() });
+        QCOMPARE(layers.floats[link->windowHandle()].keyboard, WindowLayers::Keyboard::OnClick);
+        QCOMPARE(layers.floats.size(), 2);
     }
 
     void aLinkGoesAfterItsTime()

@@ -2,9 +2,9 @@
 #include "platform/recognition/Engine/RecognitionEngine.h"
 #include "platform/recognition/Engine/RecognitionServer.h"
 #include "platform/recognition/GrayPicture.h"
+#include "tests/support/Rows.h"
 
 #include <QPainter>
-#include <QTest>
 
 #include <sys/socket.h>
 
@@ -38,15 +38,12 @@ class RecognitionEngineTest : public QObject {
 private Q_SLOTS:
     void reads_data()
     {
-        QTest::addColumn<int>("pixelHeight");
-        QTest::addColumn<QColor>("text");
-        QTest::addColumn<QColor>("background");
-        QTest::addColumn<Level>("level");
-        QTest::newRow("dark on light") << 14 << QColor(Qt::black) << QColor(Qt::white) << Level::Accurate;
-        QTest::newRow("light on dark") << 14 << QColor(Qt::lightGray) << QColor("#202020") << Level::Accurate;
-        QTest::newRow("small gray hints") << 11 << QColor("#808080") << QColor("#ececec") << Level::Accurate;
-        QTest::newRow("large") << 22 << QColor(Qt::black) << QColor(Qt::white) << Level::Accurate;
-        QTest::newRow("without dictionaries") << 14 << QColor(Qt::black) << QColor(Qt::white) << Level::Fast;
+        test::columns<int, QColor, QColor, Level>("pixelHeight", "text", "background", "level");
+        test::row("dark on light", 14, QColor(Qt::black), QColor(Qt::white), Level::Accurate);
+        test::row("light on dark", 14, QColor(Qt::lightGray), QColor("#202020"), Level::Accurate);
+        test::row("small gray hints", 11, QColor("#808080"), QColor("#ececec"), Level::Accurate);
+        test::row("large", 22, QColor(Qt::black), QColor(Qt::white), Level::Accurate);
+        test::row("without dictionaries", 14, QColor(Qt::black), QColor(Qt::white), Level::Fast);
     }
 
     void reads()
@@ -62,14 +59,13 @@ private Q_SLOTS:
 
     void readsTwoLanguages_data()
     {
-        QTest::addColumn<QStringList>("models");
-        QTest::addColumn<QString>("foreign");
+        test::columns<QStringList, QString>("models", "foreign");
         const QString eng = QStringLiteral("eng"), spa = QStringLiteral("spa"), deu = QStringLiteral("deu");
         const QString spanish = QString::fromUtf8("Mañana será otro día"),
                       german = QString::fromUtf8("Größe ändern für");
-        QTest::newRow("Spanish first") << QStringList { spa, eng } << spanish;
-        QTest::newRow("Spanish second") << QStringList { eng, spa } << spanish;
-        QTest::newRow("German second") << QStringList { eng, deu } << german;
+        test::row("Spanish first", QStringList { spa, eng }, spanish);
+        test::row("Spanish second", QStringList { eng, spa }, spanish);
+        test::row("German second", QStringList { eng, deu }, german);
     }
 
     void readsTwoLanguages()
@@ -117,12 +113,11 @@ private Q_SLOTS:
 
     void servesUntilItIsToldNonsense_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("ended");
-        QTest::newRow("the other side went away") << QByteArray() << true;
-        QTest::newRow("in the middle of a message") << QByteArray("\x10\x00\x00\x00\x01", 5) << false;
-        QTest::newRow("a message too long") << QByteArray("\xff\xff\xff\x7f", 4) << false;
-        QTest::newRow("no order") << WorkerMessages::framed("nonsense") << false;
+        test::columns<QByteArray, bool>("bytes", "ended");
+        test::row("the other side went away", QByteArray(), true);
+        test::row("in the middle of a message", QByteArray("\x10\x00\x00\x00\x01", 5), false);
+        test::row("a message too long", QByteArray("\xff\xff\xff\x7f", 4), false);
+        test::row("no order", WorkerMessages::framed("nonsense"), false);
     }
 
     void servesUntilItIsToldNonsense()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Rendering/TextGeometry.h"
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/Canvas/EditedCanvas.h"
 
 #include <QSignalSpy>
@@ -20,21 +21,19 @@ class CreateRowsTest : public QObject {
 private Q_SLOTS:
     void pressAndDragMakesAMark_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<QRectF>("box");
+        test::columns<Tool, AnnotationKind, QRectF>("tool", "kind", "box");
         const QRectF dragged(50, 60, 80, 40), square(50, 60, 80, 80);
-        QTest::newRow("arrow") << Tool::Arrow << AnnotationKind::Arrow << dragged;
-        QTest::newRow("rectangle") << Tool::Rectangle << AnnotationKind::Rectangle << dragged;
-        QTest::newRow("ellipse") << Tool::Ellipse << AnnotationKind::Ellipse << dragged;
-        QTest::newRow("line") << Tool::Line << AnnotationKind::Line << dragged;
-        QTest::newRow("highlight") << Tool::Highlight << AnnotationKind::Highlight << dragged;
-        QTest::newRow("obscured area") << Tool::Pixelate << AnnotationKind::Pixelate << dragged;
-        QTest::newRow("pen") << Tool::Pen << AnnotationKind::Pen << dragged;
-        QTest::newRow("spotlight") << Tool::Spotlight << AnnotationKind::Spotlight << dragged;
-        QTest::newRow("loupe") << Tool::Magnifier << AnnotationKind::Magnifier << dragged;
-        QTest::newRow("stamp keeps square") << Tool::Stamp << AnnotationKind::Stamp << square;
-        QTest::newRow("sticker keeps square") << Tool::Sticker << AnnotationKind::Sticker << square;
+        test::row("arrow", Tool::Arrow, AnnotationKind::Arrow, dragged);
+        test::row("rectangle", Tool::Rectangle, AnnotationKind::Rectangle, dragged);
+        test::row("ellipse", Tool::Ellipse, AnnotationKind::Ellipse, dragged);
+        test::row("line", Tool::Line, AnnotationKind::Line, dragged);
+        test::row("highlight", Tool::Highlight, AnnotationKind::Highlight, dragged);
+        test::row("obscured area", Tool::Pixelate, AnnotationKind::Pixelate, dragged);
+        test::row("pen", Tool::Pen, AnnotationKind::Pen, dragged);
+        test::row("spotlight", Tool::Spotlight, AnnotationKind::Spotlight, dragged);
+        test::row("loupe", Tool::Magnifier, AnnotationKind::Magnifier, dragged);
+        test::row("stamp keeps square", Tool::Stamp, AnnotationKind::Stamp, square);
+        test::row("sticker keeps square", Tool::Sticker, AnnotationKind::Sticker, square);
     }
     void pressAndDragMakesAMark()
     {
@@ -79,10 +78,9 @@ private Q_SLOTS:
 
     void pressOnTheSelectedMarkReshapesIt_data()
     {
-        QTest::addColumn<QPointF>("press");
-        QTest::addColumn<QRectF>("box");
-        QTest::newRow("body: moves") << QPointF(80, 70) << QRectF(60, 65, 80, 40);
-        QTest::newRow("handle: resizes") << QPointF(130, 100) << QRectF(50, 60, 90, 45);
+        test::columns<QPointF, QRectF>("press", "box");
+        test::row("body: moves", QPointF(80, 70), QRectF(60, 65, 80, 40));
+        test::row("handle: resizes", QPointF(130, 100), QRectF(50, 60, 90, 45));
     }
     void pressOnTheSelectedMarkReshapesIt()
     {
@@ -114,17 +112,14 @@ private Q_SLOTS:
 
     void clickSelectsDeselectsOrPlaces_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<QPointF>("at");
-        QTest::addColumn<bool>("selectsTheBox");
-        QTest::addColumn<QRectF>("placed");
+        test::columns<Tool, QPointF, bool, QRectF>("tool", "at", "selectsTheBox", "placed");
         const QPointF onBox(60, 60), bare(300, 200);
-        QTest::newRow("rectangle on a mark") << Tool::Rectangle << onBox << true << QRectF();
-        QTest::newRow("rectangle on the canvas") << Tool::Rectangle << bare << false << QRectF();
-        QTest::newRow("arrow on the canvas") << Tool::Arrow << bare << false << QRectF();
-        QTest::newRow("stamp") << Tool::Stamp << bare << false << QRectF(280, 180, 40, 40);
-        QTest::newRow("sticker") << Tool::Sticker << bare << false << QRectF(268, 168, 64, 64);
-        QTest::newRow("pen: a dot") << Tool::Pen << bare << false << QRectF(300, 200, 0, 0);
+        test::row("rectangle on a mark", Tool::Rectangle, onBox, true, QRectF());
+        test::row("rectangle on the canvas", Tool::Rectangle, bare, false, QRectF());
+        test::row("arrow on the canvas", Tool::Arrow, bare, false, QRectF());
+        test::row("stamp", Tool::Stamp, bare, false, QRectF(280, 180, 40, 40));
+        test::row("sticker", Tool::Sticker, bare, false, QRectF(268, 168, 64, 64));
+        test::row("pen: a dot", Tool::Pen, bare, false, QRectF(300, 200, 0, 0));
     }
     void clickSelectsDeselectsOrPlaces()
     {
@@ -210,20 +205,16 @@ private Q_SLOTS:
 
     void modifiersShapeTheNewMark_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QPointF>("to");
-        QTest::addColumn<QRectF>("box");
+        test::columns<Tool, Qt::KeyboardModifiers, QPointF, QRectF>("tool", "modifiers", "to", "box");
         const auto shift = Qt::KeyboardModifiers(Qt::ShiftModifier), alt = Qt::KeyboardModifiers(Qt::AltModifier);
-        QTest::newRow("square") << Tool::Rectangle << shift << QPointF(160, 130) << QRectF(100, 100, 60, 60);
-        QTest::newRow("circle, up and left") << Tool::Ellipse << shift << QPointF(70, 90) << QRectF(70, 70, 30, 30);
-        QTest::newRow("centre") << Tool::Rectangle << alt << QPointF(130, 120) << QRectF(70, 80, 60, 40);
-        QTest::newRow("square about the centre")
-            << Tool::Rectangle << (shift | alt) << QPointF(130, 120) << QRectF(70, 70, 60, 60);
-        QTest::newRow("level line") << Tool::Line << shift << QPointF(160, 103) << QRectF(100, 100, 60, 0);
-        QTest::newRow("diagonal arrow") << Tool::Arrow << shift << QPointF(158, 162) << QRectF(100, 100, 60, 60);
-        QTest::newRow("line about its middle") << Tool::Line << alt << QPointF(130, 120) << QRectF(70, 80, 60, 40);
-        QTest::newRow("free stamp") << Tool::Stamp << shift << QPointF(160, 130) << QRectF(100, 100, 60, 30);
+        test::row("square", Tool::Rectangle, shift, QPointF(160, 130), QRectF(100, 100, 60, 60));
+        test::row("circle, up and left", Tool::Ellipse, shift, QPointF(70, 90), QRectF(70, 70, 30, 30));
+        test::row("centre", Tool::Rectangle, alt, QPointF(130, 120), QRectF(70, 80, 60, 40));
+        test::row("square about the centre", Tool::Rectangle, (shift | alt), QPointF(130, 120), QRectF(70, 70, 60, 60));
+        test::row("level line", Tool::Line, shift, QPointF(160, 103), QRectF(100, 100, 60, 0));
+        test::row("diagonal arrow", Tool::Arrow, shift, QPointF(158, 162), QRectF(100, 100, 60, 60));
+        test::row("line about its middle", Tool::Line, alt, QPointF(130, 120), QRectF(70, 80, 60, 40));
+        test::row("free stamp", Tool::Stamp, shift, QPointF(160, 130), QRectF(100, 100, 60, 30));
     }
     void modifiersShapeTheNewMark()
     {
@@ -270,9 +261,9 @@ private Q_SLOTS:
     void spaceMovesTheUnfinishedMark_data()
     {
         QTest::addColumn<Tool>("tool");
-        QTest::newRow("rectangle") << Tool::Rectangle;
-        QTest::newRow("arrow") << Tool::Arrow;
-        QTest::newRow("pen") << Tool::Pen;
+        test::row("rectangle", Tool::Rectangle);
+        test::row("arrow", Tool::Arrow);
+        test::row("pen", Tool::Pen);
     }
     void spaceMovesTheUnfinishedMark()
     {
@@ -293,9 +284,9 @@ private Q_SLOTS:
     void wheelChangesTheUnfinishedMark_data()
     {
         QTest::addColumn<Tool>("tool");
-        QTest::newRow("stroke width") << Tool::Rectangle;
-        QTest::newRow("strength") << Tool::Pixelate;
-        QTest::newRow("magnification") << Tool::Magnifier;
+        test::row("stroke width", Tool::Rectangle);
+        test::row("strength", Tool::Pixelate);
+        test::row("magnification", Tool::Magnifier);
     }
     void wheelChangesTheUnfinishedMark()
     {
@@ -334,8 +325,7 @@ private Q_SLOTS:
 
     void escapeOrTheRightButtonPutsAllBack_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<bool>("byKey");
+        test::columns<Tool, bool>("tool", "byKey");
         for (const bool byKey : { true, false }) {
             const char *way = byKey ? "Escape" : "right button";
             QTest::addRow("a new rectangle, %s", way) << Tool::Rectangle << byKey;
@@ -404,9 +394,9 @@ private Q_SLOTS:
     void placesAndThresholdsHoldAtEveryZoom_data()
     {
         QTest::addColumn<double>("scale");
-        QTest::newRow("75 %") << 0.75;
-        QTest::newRow("200 %") << 2.0;
-        QTest::newRow("400 %") << 4.0;
+        test::row("75 %", 0.75);
+        test::row("200 %", 2.0);
+        test::row("400 %", 4.0);
     }
     void placesAndThresholdsHoldAtEveryZoom()
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/Canvas/EditedCanvas.h"
 
 using namespace tessaly;
@@ -27,37 +28,27 @@ private Q_SLOTS:
 
     void dragsChangeTheFrame_data()
     {
-        QTest::addColumn<QPointF>("from");
-        QTest::addColumn<QPointF>("to");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<CropAspect>("aspect");
-        QTest::addColumn<QRectF>("frame"); // from 100, 80, 200 by 100
+        // frame: from 100, 80, 200 by 100
+        test::columns<QPointF, QPointF, Qt::KeyboardModifiers, CropAspect, QRectF>(
+            "from", "to", "modifiers", "aspect", "frame");
         const Qt::KeyboardModifiers none, shift = Qt::ShiftModifier, alt = Qt::AltModifier;
         const auto free = CropAspect::Free, square = CropAspect::Square;
-        QTest::newRow("corner") << QPointF(300, 180) << QPointF(320, 220) << none << free << QRectF(100, 80, 220, 140);
-        QTest::newRow("side") << QPointF(200, 80) << QPointF(220, 60) << none << free << QRectF(100, 60, 200, 120);
-        QTest::newRow("beyond the picture")
-            << QPointF(300, 180) << QPointF(500, 420) << none << free << QRectF(100, 80, 300, 220);
-        QTest::newRow("flipped") << QPointF(300, 180) << QPointF(60, 40) << none << free << QRectF(60, 40, 40, 40);
-        QTest::newRow("onto itself") << QPointF(300, 180) << QPointF(100, 80) << none << free << QRectF(100, 80, 1, 1);
-        QTest::newRow("Shift: ratio") << QPointF(300, 180) << QPointF(340, 185) << shift << free
-                                      << QRectF(100, 80, 240, 120);
-        QTest::newRow("Alt: centre") << QPointF(300, 180) << QPointF(310, 190) << alt << free
-                                     << QRectF(90, 70, 220, 120);
-        QTest::newRow("constraint") << QPointF(300, 180) << QPointF(250, 200) << none << square
-                                    << QRectF(100, 80, 150, 150);
-        QTest::newRow("constraint at the picture's edge")
-            << QPointF(300, 180) << QPointF(390, 200) << none << square << QRectF(100, 80, 220, 220);
-        QTest::newRow("inside moves") << QPointF(200, 130) << QPointF(230, 110) << none << free
-                                      << QRectF(130, 60, 200, 100);
-        QTest::newRow("inside stops at the edge")
-            << QPointF(200, 130) << QPointF(390, 20) << none << free << QRectF(200, 0, 200, 100);
-        QTest::newRow("outside: a new frame")
-            << QPointF(20, 200) << QPointF(90, 280) << none << free << QRectF(20, 200, 70, 80);
-        QTest::newRow("a new frame with Shift")
-            << QPointF(20, 200) << QPointF(80, 210) << shift << free << QRectF(20, 200, 60, 30);
-        QTest::newRow("a new square, up and left")
-            << QPointF(90, 60) << QPointF(70, 50) << none << square << QRectF(70, 40, 20, 20);
+        test::row("corner", QPointF(300, 180), QPointF(320, 220), none, free, QRectF(100, 80, 220, 140));
+        test::row("side", QPointF(200, 80), QPointF(220, 60), none, free, QRectF(100, 60, 200, 120));
+        test::row("beyond the picture", QPointF(300, 180), QPointF(500, 420), none, free, QRectF(100, 80, 300, 220));
+        test::row("flipped", QPointF(300, 180), QPointF(60, 40), none, free, QRectF(60, 40, 40, 40));
+        test::row("onto itself", QPointF(300, 180), QPointF(100, 80), none, free, QRectF(100, 80, 1, 1));
+        test::row("Shift: ratio", QPointF(300, 180), QPointF(340, 185), shift, free, QRectF(100, 80, 240, 120));
+        test::row("Alt: centre", QPointF(300, 180), QPointF(310, 190), alt, free, QRectF(90, 70, 220, 120));
+        test::row("constraint", QPointF(300, 180), QPointF(250, 200), none, square, QRectF(100, 80, 150, 150));
+        test::row("constraint at the picture's edge", QPointF(300, 180), QPointF(390, 200), none, square,
+            QRectF(100, 80, 220, 220));
+        test::row("inside moves", QPointF(200, 130), QPointF(230, 110), none, free, QRectF(130, 60, 200, 100));
+        test::row(
+            "inside stops at the edge", QPointF(200, 130), QPointF(390, 20), none, free, QRectF(200, 0, 200, 100));
+        test::row("outside: a new frame", QPointF(20, 200), QPointF(90, 280), none, free, QRectF(20, 200, 70, 80));
+        test::row("a new frame with Shift", QPointF(20, 200), QPointF(80, 210), shift, free, QRectF(20, 200, 60, 30));
+        test::row("a new square, up and left", QPointF(90, 60), QPointF(70, 50), none, square, QRectF(70, 40, 20, 20));
     }
     void dragsChangeTheFrame()
     {
@@ -136,8 +127,8 @@ private Q_SLOTS:
     void enterOrDoubleClickApplies_data()
     {
         QTest::addColumn<bool>("byKey");
-        QTest::newRow("Enter") << true;
-        QTest::newRow("double click") << false;
+        test::row("Enter", true);
+        test::row("double click", false);
     }
     void enterOrDoubleClickApplies()
     {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Annotation/AnnotationGeometry.h"
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/Canvas/EditedCanvas.h"
 
 using namespace tessaly;
@@ -27,41 +28,34 @@ class ResizeRowsTest : public QObject {
 private Q_SLOTS:
     void handlesMoveTheirSides_data()
     {
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<HandleRole>("role");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QPointF>("by");
-        QTest::addColumn<QRectF>("box");
+        test::columns<AnnotationKind, HandleRole, Qt::KeyboardModifiers, QPointF, QRectF>(
+            "kind", "role", "modifiers", "by", "box");
         using Kind = AnnotationKind;
         const Qt::KeyboardModifiers none, shift = Qt::ShiftModifier, alt = Qt::AltModifier;
-        QTest::newRow("corner") << Kind::Rectangle << HandleRole::BottomRight << none << QPointF(20, 10)
-                                << QRectF(100, 80, 120, 70);
-        QTest::newRow("opposite corner") << Kind::Highlight << HandleRole::TopLeft << none << QPointF(20, 10)
-                                         << QRectF(120, 90, 80, 50);
-        QTest::newRow("side") << Kind::Rectangle << HandleRole::Left << none << QPointF(-20, 10)
-                              << QRectF(80, 80, 120, 60);
-        QTest::newRow("top side") << Kind::Ellipse << HandleRole::Top << none << QPointF(-20, 10)
-                                  << QRectF(100, 90, 100, 50);
-        QTest::newRow("Shift keeps the ratio")
-            << Kind::Rectangle << HandleRole::BottomRight << shift << QPointF(50, 5) << QRectF(100, 80, 150, 90);
-        QTest::newRow("an image keeps it anyway")
-            << Kind::ImageOverlay << HandleRole::BottomRight << none << QPointF(50, 5) << QRectF(100, 80, 150, 90);
-        QTest::newRow("Shift frees an image")
-            << Kind::ImageOverlay << HandleRole::BottomRight << shift << QPointF(50, 5) << QRectF(100, 80, 150, 65);
-        QTest::newRow("a stamp keeps it")
-            << Kind::Stamp << HandleRole::TopLeft << none << QPointF(50, 5) << QRectF(108.333, 85, 91.667, 55);
-        QTest::newRow("Alt: about the centre")
-            << Kind::Rectangle << HandleRole::BottomRight << alt << QPointF(20, 10) << QRectF(80, 70, 140, 80);
-        QTest::newRow("Alt on a side") << Kind::Rectangle << HandleRole::Right << alt << QPointF(20, 10)
-                                       << QRectF(80, 80, 140, 60);
-        QTest::newRow("past the opposite side")
-            << Kind::Rectangle << HandleRole::Right << none << QPointF(-150, 0) << QRectF(50, 80, 50, 60);
-        QTest::newRow("past the opposite corner")
-            << Kind::Rectangle << HandleRole::BottomRight << none << QPointF(-150, -100) << QRectF(50, 40, 50, 40);
-        QTest::newRow("never below a point")
-            << Kind::Rectangle << HandleRole::BottomRight << none << QPointF(-100, -60) << QRectF(100, 80, 1, 1);
-        QTest::newRow("a path is scaled")
-            << Kind::Pen << HandleRole::BottomRight << none << QPointF(100, 60) << QRectF(100, 80, 200, 120);
+        test::row("corner", Kind::Rectangle, HandleRole::BottomRight, none, QPointF(20, 10), QRectF(100, 80, 120, 70));
+        test::row(
+            "opposite corner", Kind::Highlight, HandleRole::TopLeft, none, QPointF(20, 10), QRectF(120, 90, 80, 50));
+        test::row("side", Kind::Rectangle, HandleRole::Left, none, QPointF(-20, 10), QRectF(80, 80, 120, 60));
+        test::row("top side", Kind::Ellipse, HandleRole::Top, none, QPointF(-20, 10), QRectF(100, 90, 100, 50));
+        test::row("Shift keeps the ratio", Kind::Rectangle, HandleRole::BottomRight, shift, QPointF(50, 5),
+            QRectF(100, 80, 150, 90));
+        test::row("an image keeps it anyway", Kind::ImageOverlay, HandleRole::BottomRight, none, QPointF(50, 5),
+            QRectF(100, 80, 150, 90));
+        test::row("Shift frees an image", Kind::ImageOverlay, HandleRole::BottomRight, shift, QPointF(50, 5),
+            QRectF(100, 80, 150, 65));
+        test::row("a stamp keeps it", Kind::Stamp, HandleRole::TopLeft, none, QPointF(50, 5),
+            QRectF(108.333, 85, 91.667, 55));
+        test::row("Alt: about the centre", Kind::Rectangle, HandleRole::BottomRight, alt, QPointF(20, 10),
+            QRectF(80, 70, 140, 80));
+        test::row("Alt on a side", Kind::Rectangle, HandleRole::Right, alt, QPointF(20, 10), QRectF(80, 80, 140, 60));
+        test::row("past the opposite side", Kind::Rectangle, HandleRole::Right, none, QPointF(-150, 0),
+            QRectF(50, 80, 50, 60));
+        test::row("past the opposite corner", Kind::Rectangle, HandleRole::BottomRight, none, QPointF(-150, -100),
+            QRectF(50, 40, 50, 40));
+        test::row("never below a point", Kind::Rectangle, HandleRole::BottomRight, none, QPointF(-100, -60),
+            QRectF(100, 80, 1, 1));
+        test::row(
+            "a path is scaled", Kind::Pen, HandleRole::BottomRight, none, QPointF(100, 60), QRectF(100, 80, 200, 120));
     }
     void handlesMoveTheirSides()
     {
@@ -102,11 +96,10 @@ private Q_SLOTS:
 
     void aBoxDrawnBackwardsCanBeResized_data()
     {
-        QTest::addColumn<HandleRole>("role");
-        QTest::addColumn<QRectF>("box");
-        QTest::newRow("top left") << HandleRole::TopLeft << QRectF(110, 85, 90, 55);
-        QTest::newRow("bottom right") << HandleRole::BottomRight << QRectF(100, 80, 110, 65);
-        QTest::newRow("right") << HandleRole::Right << QRectF(100, 80, 110, 60);
+        test::columns<HandleRole, QRectF>("role", "box");
+        test::row("top left", HandleRole::TopLeft, QRectF(110, 85, 90, 55));
+        test::row("bottom right", HandleRole::BottomRight, QRectF(100, 80, 110, 65));
+        test::row("right", HandleRole::Right, QRectF(100, 80, 110, 60));
     }
     void aBoxDrawnBackwardsCanBeResized()
     {
@@ -122,19 +115,15 @@ private Q_SLOTS:
 
     void anEndOfALineMoves_data()
     {
-        QTest::addColumn<HandleRole>("role");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QPointF>("to");
-        QTest::addColumn<QPointF>("p1");
-        QTest::addColumn<QPointF>("p2");
+        test::columns<HandleRole, Qt::KeyboardModifiers, QPointF, QPointF, QPointF>(
+            "role", "modifiers", "to", "p1", "p2");
         const Qt::KeyboardModifiers none, shift = Qt::ShiftModifier, alt = Qt::AltModifier;
         const QPointF p1 = start.topLeft(), p2 = start.bottomRight();
-        QTest::newRow("end") << HandleRole::End << none << QPointF(250, 100) << p1 << QPointF(250, 100);
-        QTest::newRow("start") << HandleRole::Start << none << QPointF(50, 100) << QPointF(50, 100) << p2;
-        QTest::newRow("Shift: level") << HandleRole::End << shift << QPointF(250, 85) << p1 << QPointF(250, 80);
-        QTest::newRow("Alt: both ends") << HandleRole::End << alt << QPointF(220, 150) << QPointF(80, 70)
-                                        << QPointF(220, 150);
-        QTest::newRow("onto the other end") << HandleRole::Start << none << p2 << p2 - QPointF(0.857, 0.514) << p2;
+        test::row("end", HandleRole::End, none, QPointF(250, 100), p1, QPointF(250, 100));
+        test::row("start", HandleRole::Start, none, QPointF(50, 100), QPointF(50, 100), p2);
+        test::row("Shift: level", HandleRole::End, shift, QPointF(250, 85), p1, QPointF(250, 80));
+        test::row("Alt: both ends", HandleRole::End, alt, QPointF(220, 150), QPointF(80, 70), QPointF(220, 150));
+        test::row("onto the other end", HandleRole::Start, none, p2, p2 - QPointF(0.857, 0.514), p2);
     }
     void anEndOfALineMoves()
     {
@@ -188,9 +177,9 @@ private Q_SLOTS:
     void aSmallMarkIsGrabbedByItsBody_data()
     {
         QTest::addColumn<AnnotationKind>("kind");
-        QTest::newRow("highlight") << AnnotationKind::Highlight;
-        QTest::newRow("stamp") << AnnotationKind::Stamp;
-        QTest::newRow("line") << AnnotationKind::Line;
+        test::row("highlight", AnnotationKind::Highlight);
+        test::row("stamp", AnnotationKind::Stamp);
+        test::row("line", AnnotationKind::Line);
     }
     void aSmallMarkIsGrabbedByItsBody()
     {
@@ -211,8 +200,8 @@ private Q_SLOTS:
     void handlesStayTheSameOnScreenAtAnyZoom_data()
     {
         QTest::addColumn<double>("scale");
-        QTest::newRow("50 %") << 0.5;
-        QTest::newRow("300 %") << 3.0;
+        test::row("50 %", 0.5);
+        test::row("300 %", 3.0);
     }
     void handlesStayTheSameOnScreenAtAnyZoom()
     {
@@ -229,10 +218,9 @@ private Q_SLOTS:
 
     void aCornerOfATextSetsItsFontSize_data()
     {
-        QTest::addColumn<HandleRole>("role");
-        QTest::addColumn<double>("growth");
-        QTest::newRow("twice") << HandleRole::BottomRight << 2.0;
-        QTest::newRow("half, from the top left") << HandleRole::TopLeft << 0.5;
+        test::columns<HandleRole, double>("role", "growth");
+        test::row("twice", HandleRole::BottomRight, 2.0);
+        test::row("half, from the top left", HandleRole::TopLeft, 0.5);
     }
     void aCornerOfATextSetsItsFontSize()
     {

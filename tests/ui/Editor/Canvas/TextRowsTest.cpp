@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/Canvas/EditedCanvas.h"
 
 #include <QInputMethodEvent>
@@ -58,13 +59,10 @@ private Q_SLOTS:
 
     void finishing_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("stillEditing");
-        QTest::newRow("Enter is a new line") << int(Qt::Key_Return) << int(Qt::NoModifier) << "x\n" << true;
-        QTest::newRow("Ctrl+Enter") << int(Qt::Key_Return) << int(Qt::ControlModifier) << "x" << false;
-        QTest::newRow("Escape") << int(Qt::Key_Escape) << int(Qt::NoModifier) << "x" << false;
+        test::columns<int, int, QString, bool>("key", "modifiers", "text", "stillEditing");
+        test::row("Enter is a new line", int(Qt::Key_Return), int(Qt::NoModifier), "x\n", true);
+        test::row("Ctrl+Enter", int(Qt::Key_Return), int(Qt::ControlModifier), "x", false);
+        test::row("Escape", int(Qt::Key_Escape), int(Qt::NoModifier), "x", false);
     }
     void finishing()
     {
@@ -111,11 +109,10 @@ private Q_SLOTS:
 
     void nothingIsLeftOfAnEmptyText_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("restyled");
-        QTest::newRow("nothing typed") << "" << false;
-        QTest::newRow("blanks") << "  " << false;
-        QTest::newRow("in another size") << "" << true;
+        test::columns<QString, bool>("typed", "restyled");
+        test::row("nothing typed", "", false);
+        test::row("blanks", "  ", false);
+        test::row("in another size", "", true);
     }
     void nothingIsLeftOfAnEmptyText()
     {
@@ -203,11 +200,11 @@ private Q_SLOTS:
 
     void editingBegins_data()
     {
-        QTest::addColumn<int>("key"); ///< 0 for a double click on the second letter
-        QTest::addColumn<QString>("text"); ///< after an X is typed
-        QTest::newRow("F2 selects all") << int(Qt::Key_F2) << "X";
-        QTest::newRow("Enter selects all") << int(Qt::Key_Return) << "X";
-        QTest::newRow("a double click puts the caret there") << 0 << "XWW";
+        // key: 0 for a double click on the second letter; text: after an X is typed
+        test::columns<int, QString>("key", "text");
+        test::row("F2 selects all", int(Qt::Key_F2), "X");
+        test::row("Enter selects all", int(Qt::Key_Return), "X");
+        test::row("a double click puts the caret there", 0, "XWW");
     }
     void editingBegins()
     {
@@ -228,37 +225,34 @@ private Q_SLOTS:
 
     void keysMoveAndEdit_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QList<int>>("keys"); ///< key combinations, after the caret was put at the end
-        QTest::addColumn<QString>("result"); ///< with a | typed at the end
+        // keys: key combinations, after the caret was put at the end; result: with a | typed at the end
+        test::columns<QString, QList<int>, QString>("start", "keys", "result");
         const int ctrl = int(Qt::CTRL), shift = int(Qt::SHIFT);
-        QTest::newRow("left") << "ab" << QList<int> { Qt::Key_Left } << "a|b";
-        QTest::newRow("over a whole emoji") << "a👩‍🚀" << QList<int> { Qt::Key_Left } << "a|👩‍🚀";
-        QTest::newRow("backspace takes a whole emoji") << "a👩‍🚀" << QList<int> { Qt::Key_Backspace } << "a|";
-        QTest::newRow("word left") << "one two" << QList<int> { ctrl | Qt::Key_Left } << "one |two";
-        QTest::newRow("word right") << "one two" << QList<int> { ctrl | Qt::Key_Home, ctrl | Qt::Key_Right }
-                                    << "one |two";
-        QTest::newRow("line start") << "a\nbc" << QList<int> { Qt::Key_Home } << "a\n|bc";
-        QTest::newRow("text start") << "a\nbc" << QList<int> { ctrl | Qt::Key_Home } << "|a\nbc";
-        QTest::newRow("line end") << "ab\nc" << QList<int> { ctrl | Qt::Key_Home, Qt::Key_End } << "ab|\nc";
-        QTest::newRow("up keeps the column") << "WW\nWW" << QList<int> { Qt::Key_Left, Qt::Key_Up } << "W|W\nWW";
-        QTest::newRow("up in the first line") << "ab" << QList<int> { Qt::Key_Up } << "|ab";
-        QTest::newRow("down and up again through a short line")
-            << "WWW\nW\nWWW" << QList<int> { Qt::Key_Up, Qt::Key_Up } << "WWW|\nW\nWWW";
-        QTest::newRow("selected letters are replaced")
-            << "abc" << QList<int> { shift | Qt::Key_Left, shift | Qt::Key_Left } << "a|";
-        QTest::newRow("left leaves a selection at its start")
-            << "abc" << QList<int> { shift | Qt::Key_Left, shift | Qt::Key_Left, Qt::Key_Left } << "a|bc";
-        QTest::newRow("select all") << "ab\nc" << QList<int> { ctrl | Qt::Key_A } << "|";
-        QTest::newRow("delete a word") << "one two" << QList<int> { ctrl | Qt::Key_Backspace } << "one |";
-        QTest::newRow("cut and paste twice")
-            << "ab" << QList<int> { ctrl | Qt::Key_A, ctrl | Qt::Key_X, ctrl | Qt::Key_V, ctrl | Qt::Key_V } << "abab|";
-        QTest::newRow("undo and redo") << "ab"
-                                       << QList<int> { Qt::Key_Backspace, Qt::Key_Backspace, ctrl | Qt::Key_Z,
-                                              ctrl | Qt::Key_Z, ctrl | Qt::Key_Y }
-                                       << "a|";
-        QTest::newRow("keys of the canvas do nothing")
-            << "ab" << QList<int> { Qt::Key_PageUp, Qt::Key_Tab, ctrl | Qt::Key_D } << "ab|";
+        test::row("left", "ab", QList<int> { Qt::Key_Left }, "a|b");
+        test::row("over a whole emoji", "a👩‍🚀", QList<int> { Qt::Key_Left }, "a|👩‍🚀");
+        test::row("backspace takes a whole emoji", "a👩‍🚀", QList<int> { Qt::Key_Backspace }, "a|");
+        test::row("word left", "one two", QList<int> { ctrl | Qt::Key_Left }, "one |two");
+        test::row("word right", "one two", QList<int> { ctrl | Qt::Key_Home, ctrl | Qt::Key_Right }, "one |two");
+        test::row("line start", "a\nbc", QList<int> { Qt::Key_Home }, "a\n|bc");
+        test::row("text start", "a\nbc", QList<int> { ctrl | Qt::Key_Home }, "|a\nbc");
+        test::row("line end", "ab\nc", QList<int> { ctrl | Qt::Key_Home, Qt::Key_End }, "ab|\nc");
+        test::row("up keeps the column", "WW\nWW", QList<int> { Qt::Key_Left, Qt::Key_Up }, "W|W\nWW");
+        test::row("up in the first line", "ab", QList<int> { Qt::Key_Up }, "|ab");
+        test::row("down and up again through a short line", "WWW\nW\nWWW", QList<int> { Qt::Key_Up, Qt::Key_Up },
+            "WWW|\nW\nWWW");
+        test::row(
+            "selected letters are replaced", "abc", QList<int> { shift | Qt::Key_Left, shift | Qt::Key_Left }, "a|");
+        test::row("left leaves a selection at its start", "abc",
+            QList<int> { shift | Qt::Key_Left, shift | Qt::Key_Left, Qt::Key_Left }, "a|bc");
+        test::row("select all", "ab\nc", QList<int> { ctrl | Qt::Key_A }, "|");
+        test::row("delete a word", "one two", QList<int> { ctrl | Qt::Key_Backspace }, "one |");
+        test::row("cut and paste twice", "ab",
+            QList<int> { ctrl | Qt::Key_A, ctrl | Qt::Key_X, ctrl | Qt::Key_V, ctrl | Qt::Key_V }, "abab|");
+        test::row("undo and redo", "ab",
+            QList<int> { Qt::Key_Backspace, Qt::Key_Backspace, ctrl | Qt::Key_Z, ctrl | Qt::Key_Z, ctrl | Qt::Key_Y },
+            "a|");
+        test::row(
+            "keys of the canvas do nothing", "ab", QList<int> { Qt::Key_PageUp, Qt::Key_Tab, ctrl | Qt::Key_D }, "ab|");
     }
     void keysMoveAndEdit()
     {
@@ -281,14 +275,13 @@ private Q_SLOTS:
 
     void windowShortcutsLeaveTheKeysToTheText_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("claimed");
-        QTest::newRow("letter") << int(Qt::Key_A) << true;
-        QTest::newRow("Delete") << int(Qt::Key_Delete) << true;
-        QTest::newRow("Ctrl+Z") << (Qt::CTRL | Qt::Key_Z).toCombined() << true;
-        QTest::newRow("Ctrl+Left") << (Qt::CTRL | Qt::Key_Left).toCombined() << true;
-        QTest::newRow("Ctrl+S") << (Qt::CTRL | Qt::Key_S).toCombined() << false;
-        QTest::newRow("F10") << int(Qt::Key_F10) << false;
+        test::columns<int, bool>("key", "claimed");
+        test::row("letter", int(Qt::Key_A), true);
+        test::row("Delete", int(Qt::Key_Delete), true);
+        test::row("Ctrl+Z", (Qt::CTRL | Qt::Key_Z).toCombined(), true);
+        test::row("Ctrl+Left", (Qt::CTRL | Qt::Key_Left).toCombined(), true);
+        test::row("Ctrl+S", (Qt::CTRL | Qt::Key_S).toCombined(), false);
+        test::row("F10", int(Qt::Key_F10), false);
     }
     void windowShortcutsLeaveTheKeysToTheText()
     {

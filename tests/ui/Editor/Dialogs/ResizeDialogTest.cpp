@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/Dialogs/ResizeDialog.h"
+#include "tests/support/Rows.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
 
 using namespace tessaly;
 
@@ -20,14 +20,12 @@ class ResizeDialogTest : public QObject {
 private Q_SLOTS:
     void percentagesAreCutAndNeverNothing_data()
     {
-        QTest::addColumn<QSize>("original");
-        QTest::addColumn<int>("percent");
-        QTest::addColumn<QSize>("expected");
-        QTest::newRow("half of 3 x 3") << QSize(3, 3) << 50 << QSize(1, 1);
-        QTest::newRow("a quarter of 3 x 3") << QSize(3, 3) << 25 << QSize(1, 1);
-        QTest::newRow("cut, not rounded") << QSize(199, 101) << 75 << QSize(149, 75);
-        QTest::newRow("double") << QSize(199, 101) << 200 << QSize(398, 202);
-        QTest::newRow("beyond 32 bits") << QSize(30'000'000, 1) << 150 << QSize(45'000'000, 1);
+        test::columns<QSize, int, QSize>("original", "percent", "expected");
+        test::row("half of 3 x 3", QSize(3, 3), 50, QSize(1, 1));
+        test::row("a quarter of 3 x 3", QSize(3, 3), 25, QSize(1, 1));
+        test::row("cut, not rounded", QSize(199, 101), 75, QSize(149, 75));
+        test::row("double", QSize(199, 101), 200, QSize(398, 202));
+        test::row("beyond 32 bits", QSize(30'000'000, 1), 150, QSize(45'000'000, 1));
     }
 
     void percentagesAreCutAndNeverNothing()
@@ -39,14 +37,11 @@ private Q_SLOTS:
 
     void oneFieldSetsTheOther_data()
     {
-        QTest::addColumn<bool>("locked");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QSize>("expected");
-        QTest::newRow("width") << true << QStringLiteral("width") << 500 << QSize(500, 333);
-        QTest::newRow("height") << true << QStringLiteral("height") << 333 << QSize(500, 333);
-        QTest::newRow("height, rounded up") << true << QStringLiteral("height") << 335 << QSize(503, 335);
-        QTest::newRow("free") << false << QStringLiteral("width") << 500 << QSize(500, 666);
+        test::columns<bool, QString, int, QSize>("locked", "field", "value", "expected");
+        test::row("width", true, QStringLiteral("width"), 500, QSize(500, 333));
+        test::row("height", true, QStringLiteral("height"), 333, QSize(500, 333));
+        test::row("height, rounded up", true, QStringLiteral("height"), 335, QSize(503, 335));
+        test::row("free", false, QStringLiteral("width"), 500, QSize(500, 666));
     }
 
     void oneFieldSetsTheOther()

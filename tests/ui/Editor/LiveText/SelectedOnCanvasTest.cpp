@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/Rows.h"
 #include "tests/ui/Editor/LiveText/ReadCanvas.h"
 
 #include <QContextMenuEvent>
@@ -22,16 +23,13 @@ class SelectedOnCanvasTest : public QObject {
 private Q_SLOTS:
     void draggingSelectsAndPaintsWords_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<int>("scale");
-        QTest::addColumn<double>("zoom");
-        QTest::addColumn<bool>("framed");
-        QTest::newRow("selecting") << Tool::Select << 1 << 1.0 << false;
-        QTest::newRow("a drawing tool") << Tool::Rectangle << 1 << 1.0 << false;
-        QTest::newRow("a placing tool") << Tool::Text << 2 << 1.0 << false;
-        QTest::newRow("the pen, large") << Tool::Pen << 1 << 2.5 << false;
-        QTest::newRow("small, on a frame") << Tool::Select << 2 << 0.5 << true;
-        QTest::newRow("large, on a frame") << Tool::Arrow << 1 << 4.0 << true;
+        test::columns<Tool, int, double, bool>("tool", "scale", "zoom", "framed");
+        test::row("selecting", Tool::Select, 1, 1.0, false);
+        test::row("a drawing tool", Tool::Rectangle, 1, 1.0, false);
+        test::row("a placing tool", Tool::Text, 2, 1.0, false);
+        test::row("the pen, large", Tool::Pen, 1, 2.5, false);
+        test::row("small, on a frame", Tool::Select, 2, 0.5, true);
+        test::row("large, on a frame", Tool::Arrow, 1, 4.0, true);
     }
 
     void draggingSelectsAndPaintsWords()
@@ -121,13 +119,12 @@ private Q_SLOTS:
 
     void theCursorTellsWhatThePressWouldMean_data()
     {
-        QTest::addColumn<QPointF>("at");
-        QTest::addColumn<Qt::CursorShape>("shape");
-        QTest::newRow("word") << QPointF(60, 50) << Qt::IBeamCursor;
-        QTest::newRow("between words") << QPointF(105, 50) << Qt::IBeamCursor;
-        QTest::newRow("code") << QPointF(320, 60) << Qt::PointingHandCursor;
-        QTest::newRow("nothing") << QPointF(200, 200) << Qt::CrossCursor;
-        QTest::newRow("mark on a word") << QPointF(150, 90) << Qt::SizeAllCursor;
+        test::columns<QPointF, Qt::CursorShape>("at", "shape");
+        test::row("word", QPointF(60, 50), Qt::IBeamCursor);
+        test::row("between words", QPointF(105, 50), Qt::IBeamCursor);
+        test::row("code", QPointF(320, 60), Qt::PointingHandCursor);
+        test::row("nothing", QPointF(200, 200), Qt::CrossCursor);
+        test::row("mark on a word", QPointF(150, 90), Qt::SizeAllCursor);
     }
 
     void theCursorTellsWhatThePressWouldMean()
@@ -143,8 +140,7 @@ private Q_SLOTS:
 
     void hiddenWordsAndCodesAreNotThere_data()
     {
-        QTest::addColumn<Annotation>("mark");
-        QTest::addColumn<bool>("hides");
+        test::columns<Annotation, bool>("mark", "hides");
         const auto row = [](const char *name, AnnotationKind kind, bool hides, auto change) {
             Annotation mark(kind, { 145, 30 }, { 310, 62 }); // touches "big", covers "world", touches the link
             change(mark);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Editing/MarkCommands.h"
 #include "OptionsFixture.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SampleMarks.h"
 #include "ui/Editor/Options/OverflowRow.h"
 #include "ui/Editor/Options/StyleMenu.h"
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
-#include <QTest>
 
 using namespace tessaly;
 using namespace tessaly::test;
@@ -47,8 +47,7 @@ private Q_SLOTS:
     void aSelectedMarkHasTheOptionsThatItUses_data()
     {
         using Kind = AnnotationKind;
-        QTest::addColumn<AnnotationKind>("kind");
-        QTest::addColumn<QString>("names");
+        test::columns<AnnotationKind, QString>("kind", "names");
         const auto row = [](Kind kind, const char *names) { QTest::newRow(rawValue(kind).data()) << kind << names; };
         row(Kind::Arrow, "color lineWidth arrowHead arrowCurved arrowDoubleHeaded savedStyles");
         row(Kind::Text, "color textSize textBold textItalic textFont savedStyles");
@@ -100,10 +99,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<std::function<void(AnnotationStore &)>>("act");
         using Act = std::function<void(AnnotationStore &)>;
-        QTest::newRow("deleted") << Act([](AnnotationStore &store) { store.deleteSelected(); });
-        QTest::newRow("deselected") << Act([](AnnotationStore &store) { store.setSelectedID({}); });
-        QTest::newRow("undone") << Act([](AnnotationStore &store) { store.undo(); });
-        QTest::newRow("gone with all marks") << Act([](AnnotationStore &store) { store.setAnnotations({}); });
+        test::row("deleted", Act([](AnnotationStore &store) { store.deleteSelected(); }));
+        test::row("deselected", Act([](AnnotationStore &store) { store.setSelectedID({}); }));
+        test::row("undone", Act([](AnnotationStore &store) { store.undo(); }));
+        test::row("gone with all marks", Act([](AnnotationStore &store) { store.setAnnotations({}); }));
     }
 
     void neverShowsAMarkThatIsGone()
@@ -240,14 +239,12 @@ private Q_SLOTS:
 
     void cropSizeFollowsRatioAndPicture_data()
     {
-        QTest::addColumn<int>("aspect"); // index in the list
-        QTest::addColumn<bool>("lock");
-        QTest::addColumn<int>("width"); // typed
-        QTest::addColumn<QRectF>("result");
-        QTest::newRow("free") << 0 << false << 100 << QRectF(0, 0, 100, 300);
-        QTest::newRow("locked to 4:3, its present ratio") << 0 << true << 100 << QRectF(0, 0, 100, 75);
-        QTest::newRow("square") << 1 << false << 120 << QRectF(50, 0, 120, 120);
-        QTest::newRow("square, wider than the picture is high") << 1 << false << 400 << QRectF(50, 0, 300, 300);
+        // aspect: index in the list; width: typed
+        test::columns<int, bool, int, QRectF>("aspect", "lock", "width", "result");
+        test::row("free", 0, false, 100, QRectF(0, 0, 100, 300));
+        test::row("locked to 4:3, its present ratio", 0, true, 100, QRectF(0, 0, 100, 75));
+        test::row("square", 1, false, 120, QRectF(50, 0, 120, 120));
+        test::row("square, wider than the picture is high", 1, false, 400, QRectF(50, 0, 300, 300));
     }
 
     void cropSizeFollowsRatioAndPicture()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Capture/ScreenSource.h"
+#include "core/Screen/ScreenSource.h"
 
 namespace tessaly {
 

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AutomationClient.h"
+
+#include "app/AutomationNames.h"
+#include "platform/desktop/SessionBus.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+
+#include <limits>
+
+namespace tessaly::AutomationClient {
+
+static CaptureOutcome outcomeFrom(const QVariantMap &answer)
+{
+    const QString outcome = answer.value(QStringLiteral("outcome")).toString();
+    if (outcome == QLatin1StringView(AutomationNames::captured))
+        return Captured { answer.value(QStringLiteral("path")).toString() };
+    if (outcome == QLatin1StringView(AutomationNames::cancelled))
+        return CaptureCancelled {};
+    return Failure { answer.value(QStringLiteral("message")).toString() };
+}
+
+/// Whether nobody has taken the request; a program that is ending gives up its object before it is gone.
+static bool isUnheard(const QDBusError &error)
+{
+    return error.type() == QDBusError::ServiceUnknown || error.type() == QDBusError::UnknownObject
+        || error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner";
+}
+
+static QDBusMessage callOf(const char *method)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QLatin1StringView(AutomationNames::service),
+        QLatin1StringView(AutomationNames::object), QLatin1StringView(AutomationNames::interface),
+        QLatin1StringView(method));
+    call.setAutoStartService(false);
+    return call;
+}
+
+bool stay()
+{
+    constexpr int patience = 5'000; // milliseconds
+    return SessionBus::isThere()
+        && QDBusConnection::sessionBus().call(callOf("Stay"), QDBus::Block, patience).type()
+        == QDBusMessage::ReplyMessage;
+}
+
+void unlockPinnedScreenshots()
+{
+    if (SessionBus::isThere())
+        QDBusConnection::sessionBus().send(callOf("UnlockPinnedScreenshots"));
+}
+
+std::optional<CaptureOutcome> capture(const QString &subject, const QVariantMap &options)
+{
+    if (!SessionBus::isThere())
+        return std::nullopt;
+    QVariantMap attended = options;
+    attended.insert(QLatin1StringView(AutomationNames::untilCallerLeaves), true);
+    QDBusMessage request = callOf("Capture");
+    request.setArguments({ subject, attended });
+    constexpr int forEver = std::numeric_limits<int>::max(); // the user may take any time to select
+    const QDBusReply<QVariantMap> reply = QDBusConnection::sessionBus().call(request, QDBus::Block, forEver);
+    if (reply.isValid())
+        return outcomeFrom(reply.value());
+    if (isUnheard(reply.error()) || !QDBusConnection::sessionBus().isConnected())
+        return std::nullopt;
+    if (reply.error().type() == QDBusError::InvalidArgs)
+        return Failure { reply.error().message() };
+    return Failure { QCoreApplication::translate(
+        "AutomationClient", "The running Tessaly ended before the capture was done.") };
+}
+
+} // namespace tessaly::AutomationClient

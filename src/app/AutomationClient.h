@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Capture/CaptureRequest.h"
+
+#include <QVariantMap>
+
+/// The Tessaly that runs, as another program sees it.
+namespace tessaly::AutomationClient {
+
+/// Asks it to capture and waits for the end; empty where none runs. Subjects and options are those of
+/// AutomationService. There must be a QCoreApplication.
+std::optional<CaptureOutcome> capture(const QString &subject, const QVariantMap &options);
+
+/// Asks it to run on when no window is left; false where none runs.
+bool stay();
+
+/// Lets its pinned screenshots take clicks again, where one runs.
+void unlockPinnedScreenshots();
+
+} // namespace tessaly::AutomationClient

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// Where the running program is found on the session bus.
+namespace tessaly::AutomationNames {
+
+inline constexpr char service[] = "org.tessaly.Tessaly";
+inline constexpr char object[] = "/org/tessaly/Tessaly";
+inline constexpr char interface[] = "org.tessaly.Automation1";
+
+/// Set, a request is cancelled when whoever made it leaves the bus; shell scripts do so before the end.
+inline constexpr char untilCallerLeaves[] = "until-caller-leaves";
+
+// What a capture answers: "outcome" is one of the three, "path" that of the file, "message" a sentence.
+inline constexpr char captured[] = "captured";
+inline constexpr char cancelled[] = "cancelled";
+inline constexpr char failed[] = "failed";
+
+} // namespace tessaly::AutomationNames

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Capture/CaptureDelivery.h"
+
+#include "core/Capture/PostCaptureRouter.h"
+#include "core/Desktop/Toasts.h"
+#include "core/Export/ExportService.h"
+#include "core/Preferences/Settings.h"
+#include "core/Text/TextCopier.h"
+
+#include <QCoreApplication>
+
+namespace tessaly::CaptureDelivery {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("CaptureService", text); }
+
+void toClipboard(const CaptureService::Surroundings &with, const RasterImage &image, const QString &title)
+{
+    with.router.record(image, title);
+    with.exports.copy(image, true);
+    with.toasts.show(tr("Copied to clipboard"));
+}
+
+CaptureOutcome toFile(const CaptureService::Surroundings &with, const CaptureRequest &request, const RasterImage &image,
+    const QString &title)
+{
+    with.router.record(image, title);
+    auto path = request.outputPath ? with.router.saveTo(*request.outputPath, image) : with.router.saveToDisk(image);
+    if (!path)
+        return path.failure();
+    if (path->isEmpty())
+        return CaptureCancelled {};
+    return Captured { std::move(*path) };
+}
+
+CaptureOutcome route(const CaptureService::Surroundings &with, const CaptureRequest &request, const RasterImage &image,
+    const QString &title)
+{
+    switch (request.sink) {
+    case CaptureSink::Editor:
+        with.router.handleCapturedImage(image, QStringLiteral("Untitled"), title);
+        break;
+    case CaptureSink::Clipboard:
+        toClipboard(with, image, title);
+        break;
+    case CaptureSink::File:
+        return toFile(with, request, image, title);
+    case CaptureSink::Text:
+        with.textCopier.copyText(image);
+        break;
+    }
+    return Captured {};
+}
+
+} // namespace
+
+CaptureOutcome deliver(const CaptureService::Surroundings &with, const CaptureRequest &request,
+    const RasterImage &image, const QString &sourceName)
+{
+    const CaptureOutcome outcome = route(with, request, image, sourceName.isEmpty() ? tr("Screenshot") : sourceName);
+    // Last, since the setting is written to the disk. One that cannot be written holds for this run all the same.
+    const auto &count = SettingKeys::newsletterCaptureCount;
+    if (request.sink != CaptureSink::Text)
+        static_cast<void>(with.settings.set(count, with.settings.value(count) + 1));
+    return outcome;
+}
+
+} // namespace tessaly::CaptureDelivery

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Capture/CaptureFailureAlert.h"
+
+#include "core/Capture/SystemScreenshotWatcher.h"
+#include "core/Desktop/Alerts.h"
+
+#include <QCoreApplication>
+
+namespace tessaly::CaptureFailureAlert {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("CaptureService", text); }
+
+} // namespace
+
+void show(const CaptureService::Surroundings &with, const Failure &failure)
+{
+    QStringList paragraphs;
+    if (const auto wayOut = with.screen.wayOut())
+        paragraphs += *wayOut;
+    paragraphs += tr("Can't grant the permission? Keep using the macOS shortcut ⇧⌘4 and Tessaly will open each "
+                     "screenshot in the editor, or paste a screenshot with ⇧⌘N.");
+    paragraphs += tr("Detail: %1").arg(failure.message);
+    const int answer = with.alerts.ask({ .message = tr("Couldn't capture the screen"),
+        .informativeText = paragraphs.join(QStringLiteral("\n\n")),
+        .answers = { { tr("Use System Screenshots…") }, { tr("Close") } },
+        .escapeAnswer = 1 });
+    if (answer == 0)
+        with.watcher.enableChoosingFolder();
+}
+
+} // namespace tessaly::CaptureFailureAlert

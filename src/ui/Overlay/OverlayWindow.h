@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QBackingStore>
+#include <QImage>
+#include <QRegion>
+#include <QWindow>
+
+#include <thread>
+
+namespace tessaly {
+
+/// A window over a whole monitor that is painted in the monitor's device pixels, whatever its scale, and only where it
+/// has changed. Its pixels can be made before it is shown and given back while it is hidden.
+class OverlayWindow : public QWindow {
+public:
+    /// A see-through window lets others be seen where it is painted transparent.
+    OverlayWindow(QScreen &screen, bool seeThrough);
+    ~OverlayWindow() override;
+
+    bool isSeeThrough() const { return m_seeThrough; }
+
+    /// What the monitor has. Without it the window takes Qt's number of pixels a point to be the monitor's, which a
+    /// Wayland monitor at 1.5 has not: there Qt draws at 2, for the compositor to make it smaller.
+    void setMonitorPixels(const QSize &size) { m_pixelSize = size; }
+
+    /// Makes the memory that is painted into, on another thread; the first painting waits for what is left of it.
+    void prepareSurface();
+    /// Only while it is hidden.
+    void releaseSurface();
+
+    /// Paints everything now, to be shown as soon as the window system shows the window.
+    void paintAhead();
+    /// What was painted is worth nothing any more; the window is hidden.
+    void discardPainting();
+
+protected:
+    /// Paints the region, device pixels of the monitor; no other pixel needs to change.
+    virtual void paint(QImage &surface, const QRegion &pixels) = 0;
+    /// What was painted first after discardPainting() is on its way to the screen.
+    virtual void firstShown() { }
+
+    /// Has the device pixels painted anew soon.
+    void updatePixels(const QRegion &pixels);
+    /// The device pixel of a place in the window. It may lie outside while a button is held.
+    QPoint pixelAt(QPointF position) const;
+
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    double pixelsPerPoint() const;
+    bool isResampled() const;
+    QRegion paintRegion(const QRegion &pixels);
+    void paintPixels(QImage &surface, const QRegion &points);
+    void show(const QRegion &points);
+    void showExposed();
+    void waitForSurface();
+
+    QBackingStore m_store;
+    QSize m_pixelSize;
+    QImage m_pixels; ///< of the monitor, where Qt draws at another scale
+    std::thread m_preparing;
+    QRegion m_dirty; ///< device pixels
+    QRegion m_exposed; ///< points that the window system has asked for
+    bool m_seeThrough;
+    bool m_painted = false;
+    bool m_shown = false;
+};
+
+} // namespace tessaly

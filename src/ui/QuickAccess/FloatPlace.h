@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Desktop/WindowLayers.h"
+
+#include <QList>
+
+class QWidget;
+
+namespace tessaly {
+
+/// The screen with the pointer, where the user looks; the primary one when the pointer is on none. On Wayland the
+/// pointer was where a window of this program last saw it: on the screen of the selection that has just ended.
+QScreen &screenWithPointer();
+
+/// Where a floating window lies, in Qt's points of the whole desktop. Windows say so themselves on X11 only, and late.
+class FloatPlace {
+public:
+    /// Keeps both.
+    FloatPlace(QWidget &window, WindowLayers &layers) : m_window(window), m_layers(layers) { }
+
+    /// Makes the native window, unseen.
+    void prepare(QScreen &screen, const QRect &rect, WindowLayers::Keyboard keyboard);
+    void move(const QRect &rect);
+    /// To where it should be, when others may have moved it.
+    void moveAgain();
+    /// The window system tells where the window is: the answer to a move of ours, or a move by the user.
+    void wasMoved(QPoint topLeft);
+
+    const QRect &rect() const { return m_rect; }
+
+private:
+    QRect withinScreen() const;
+
+    QWidget &m_window;
+    WindowLayers &m_layers;
+    QRect m_rect;
+    QList<QPoint> m_asked; ///< moves that have not been answered, the oldest first
+};
+
+} // namespace tessaly
