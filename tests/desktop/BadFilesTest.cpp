@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/Rows.h"
 
 #include <QDir>
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -88,14 +88,10 @@ private Q_SLOTS:
 
     void opensNothingBad_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("text") << "text.png"
-                              << "text.png is not a picture";
-        QTest::newRow("pipe") << "pipe.png"
-                              << "pipe.png is not a file";
-        QTest::newRow("document") << "file.tessaly"
-                                  << "The document is damaged";
+        columns<QString, QString>("file", "reason");
+        row("text", "text.png", "text.png is not a picture");
+        row("pipe", "pipe.png", "pipe.png is not a file");
+        row("document", "file.tessaly", "The document is damaged");
     }
 
     void opensNothingBad()
@@ -112,10 +108,8 @@ private Q_SLOTS:
 
     void aFailedSaveLosesNothing_data()
     {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("alert");
-        QTest::addColumn<QString>("path"); // below the home folder
-        QTest::addColumn<QString>("reason");
+        // path: below the home folder
+        columns<QString, QString, QString, QString>("keys", "alert", "path", "reason");
         for (const auto &[keys, kind, extension] :
             { std::tuple("ctrl+s", "image", "png"), std::tuple("ctrl+shift+s", "document", "tessaly") }) {
             const QString alert = QStringLiteral("Couldn't save the %1").arg(QLatin1StringView(kind));

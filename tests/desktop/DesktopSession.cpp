@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
 
+#include <QColorSpace>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -37,24 +38,35 @@ bool waitFor(const std::function<bool()> &condition)
 
 DesktopSession::DesktopSession(const QString &geometry) : m_screen(geometry)
 {
+    prepareEnvironment("xcb");
+    qputenv("DISPLAY", m_screen->displayName().toLocal8Bit());
+    qunsetenv("WAYLAND_DISPLAY");
+    m_ready = !m_screen->displayName().isEmpty() && startBus() && startWindowManager();
+}
+
+DesktopSession::DesktopSession(WindowSystem)
+{
+    prepareEnvironment("wayland");
+    m_ready = startBus();
+}
+
+void DesktopSession::prepareEnvironment(const char *platform)
+{
     QDir(m_home.path()).mkpath(QStringLiteral("runtime"));
     QFile::setPermissions(path(QStringLiteral("runtime")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     for (QProcess *process : { &m_bus, &m_windowManager, &m_program })
         endWithThisProcess(*process);
     const QList<std::pair<const char *, QString>> variables {
-        { "DISPLAY", m_screen.displayName() },
         { "HOME", m_home.path() },
         { "XDG_RUNTIME_DIR", path(QStringLiteral("runtime")) },
         { "XDG_CONFIG_HOME", path(QStringLiteral("config")) },
         { "XDG_DATA_HOME", path(QStringLiteral("data")) },
-        { "QT_QPA_PLATFORM", QStringLiteral("xcb") },
+        { "QT_QPA_PLATFORM", QLatin1StringView(platform) },
         { "QT_LINUX_ACCESSIBILITY_ALWAYS_ON", QStringLiteral("1") },
         { "LANG", QStringLiteral("C.UTF-8") },
     };
     for (const auto &[name, value] : variables)
         qputenv(name, value.toLocal8Bit());
-    qunsetenv("WAYLAND_DISPLAY");
-    m_ready = !m_screen.displayName().isEmpty() && startBus() && startWindowManager();
 }
 
 DesktopSession::~DesktopSession()
@@ -99,6 +111,65 @@ bool DesktopSession::start(const QStringList &arguments)
     m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
     m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
     return m_program.waitForStarted();
+}
+
+void DesktopSession::splitMonitors() const
+{
+    const QByteArray size = output(QStringLiteral("xdotool"), { QStringLiteral("getdisplaygeometry") });
+    const int half = size.split(' ').first().toInt() / 2, height = size.trimmed().split(' ').last().toInt();
+    const auto monitor = [&](const char *name, int left, const char *screen) {
+        output(QStringLiteral("xrandr"),
+            { QStringLiteral("--setmonitor"), QLatin1StringView(name),
+                QStringLiteral("%1/200x%2/150+%3+0").arg(half).arg(height).arg(left), QLatin1StringView(screen) });
+    };
+    monitor("LEFT", 0, "screen");
+    monitor("RIGHT", half, "none");
+    qputenv("QT_SCREEN_SCALE_FACTORS", "LEFT=1;RIGHT=2");
+}
+
+void DesktopSession::showBackground(const QImage &picture) const
+{
+    const QString file = path(QStringLiteral("background.png"));
+    if (!picture.save(file))
+        qFatal("no background could be written");
+    output(QStringLiteral("display"), { QStringLiteral("-window"), QStringLiteral("root"), file });
+}
+
+bool DesktopSession::startResident(const QByteArray &settings)
+{
+    writeSettings(settings);
+    m_program.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly-desktop"), { QStringLiteral("--resident") });
+    m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
+    return m_program.waitForStarted() && waitFor([this] {
+        return output(QStringLiteral("dbus-send"),
+            { QStringLiteral("--session"), QStringLiteral("--print-reply"),
+                QStringLiteral("--dest=org.freedesktop.DBus"), QStringLiteral("/"),
+                QStringLiteral("org.freedesktop.DBus.GetNameOwner"), QStringLiteral("string:org.tessaly.Tessaly") })
+            .contains("string");
+    });
+}
+
+int DesktopSession::stop()
+{
+    m_program.terminate();
+    return waitForEnd();
+}
+
+std::unique_ptr<QProcess> DesktopSession::command(const QStringList &arguments) const
+{
+    auto process = std::make_unique<QProcess>();
+    endWithThisProcess(*process);
+    process->start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
+    return process;
+}
+
+int DesktopSession::finish(QProcess &command)
+{
+    // It may have been seen to end while something else was waited for.
+    const bool ended = command.state() == QProcess::NotRunning || command.waitForFinished(20'000);
+    const bool normal = command.exitStatus() == QProcess::NormalExit && command.error() != QProcess::FailedToStart;
+    return ended && normal ? command.exitCode() : -1;
 }
 
 int DesktopSession::waitForEnd()
@@ -181,6 +252,13 @@ bool DesktopSession::click(const QString &control, const QString &role) const
 bool DesktopSession::waitUntilGone(const QString &control) const
 {
     return waitFor([&] { return !m_tree->shows(control); });
+}
+
+QImage DesktopSession::pixels(const QString &file)
+{
+    QImage image = QImage(file).convertToFormat(QImage::Format_RGB32);
+    image.setColorSpace({});
+    return image;
 }
 
 QImage DesktopSession::clipboardPicture() const

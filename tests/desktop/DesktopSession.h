@@ -9,14 +9,21 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <optional>
 
 namespace tessaly::test {
 
 /// A desktop of its own: X server, window manager, session bus, and a home folder, with hands on mouse and keyboard.
 /// One at a time in a process, since it sets the process's environment.
+///
+/// On a Wayland compositor, see SwaySession, it is the session bus and the home folder only.
 class DesktopSession {
 public:
+    enum class WindowSystem { Wayland };
+
     explicit DesktopSession(const QString &geometry);
+    /// On the compositor of this process's environment.
+    explicit DesktopSession(WindowSystem);
     ~DesktopSession();
 
     /// Whether all of it runs.
@@ -28,8 +35,18 @@ public:
     /// Stores settings before a program starts.
     void writeSettings(const QByteArray &json) const;
 
+    /// Makes two monitors of the screen's halves: LEFT with one pixel a point, RIGHT with two. Before a program starts.
+    void splitMonitors() const;
+    /// Shows a picture on the root window.
+    void showBackground(const QImage &picture) const;
+
     /// Starts Tessaly's windows. `tree()` then sees them.
     bool start(const QStringList &arguments);
+    /// Starts Tessaly without a window, with these settings, and waits until it takes requests.
+    bool startResident(const QByteArray &settings);
+    /// Ends Tessaly as the end of a session does; its exit status.
+    int stop();
+    qint64 processId() const { return m_program.processId(); }
     const AccessibleTree &tree() const { return *m_tree; }
     bool isRunning() const { return m_program.state() == QProcess::Running; }
     /// Waits for the program's end by itself; its exit status, -1 when it goes on.
@@ -37,6 +54,11 @@ public:
 
     /// The most bytes that a file Tessaly writes may have; more fails as on a full disk. -1 takes the limit away.
     void limitFiles(qint64 bytes) const;
+
+    /// Starts a command of Tessaly beside the program, and lets it run.
+    std::unique_ptr<QProcess> command(const QStringList &arguments) const;
+    /// Waits for its end; its exit status, -1 when it goes on.
+    static int finish(QProcess &command);
 
     /// Runs a program to its end; its output, empty when it failed.
     QByteArray output(const QString &program, const QStringList &arguments) const;
@@ -55,16 +77,20 @@ public:
     /// Waits until no control of that name is on the screen; false after 15 seconds.
     bool waitUntilGone(const QString &control) const;
 
+    /// The pixels of a picture file as the screen has them: opaque, of no colour space. Null when it cannot be read.
+    static QImage pixels(const QString &file);
+
     /// The picture on the clipboard; null when there is none.
     QImage clipboardPicture() const;
 
 private:
+    void prepareEnvironment(const char *platform);
     bool startBus();
     bool startWindowManager();
     void xdotool(const QStringList &arguments) const;
 
     QTemporaryDir m_home;
-    VirtualScreen m_screen;
+    std::optional<VirtualScreen> m_screen;
     QProcess m_bus, m_windowManager, m_program;
     std::unique_ptr<AccessibleTree> m_tree;
     bool m_ready = false;

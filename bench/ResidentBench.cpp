@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The resident program on a screen of 3840×2160: from the request on the bus to the painted overlay as another client
+// of the X server sees it, the memory and the wake-ups at rest, and what many captures leave behind. These are what
+// people are promised, so the bounds are absolute.
+#include "bench/support/Limits.h"
+#include "bench/support/ProcessFigures.h"
+#include "bench/support/Screens.h"
+#include "platform/x11/X11Connection.h"
+#include "tests/support/VirtualScreen.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <array>
+
+using namespace tessaly;
+using namespace tessaly::bench;
+
+namespace {
+
+constexpr std::array<std::pair<int16_t, int16_t>, 3> places { { { 3, 5 }, { 1920, 700 }, { 3835, 2155 } } };
+using Pixels = std::array<uint32_t, places.size()>;
+
+/// The screen as another client sees it.
+class Watcher {
+public:
+    explicit Watcher(X11Connection &connection) : m_connection(connection) { }
+
+    /// Makes the picture the background of everything, so that it is there again when a window has gone.
+    void show(const QImage &picture) const
+    {
+        xcb_connection_t *xcb = m_connection.xcb();
+        const xcb_pixmap_t pixmap = xcb_generate_id(xcb);
+        const xcb_gcontext_t context = xcb_generate_id(xcb);
+        xcb_create_pixmap(xcb, 24, pixmap, m_connection.root(), uint16_t(picture.width()), uint16_t(picture.height()));
+        xcb_create_gc(xcb, context, pixmap, 0, nullptr);
+        constexpr int strip = 60; // rows that fit one request
+        for (int y = 0; y < picture.height(); y += strip) {
+            const int rows = std::min(strip, picture.height() - y);
+            xcb_put_image(xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context, uint16_t(picture.width()), uint16_t(rows), 0,
+                int16_t(y), 0, 24, uint32_t(picture.bytesPerLine() * rows), picture.constScanLine(y));
+        }
+        xcb_change_window_attributes(xcb, m_connection.root(), XCB_CW_BACK_PIXMAP, &pixmap);
+        xcb_clear_area(xcb, 0, m_connection.root(), 0, 0, 0, 0);
+        xcb_flush(xcb);
+    }
+
+    Pixels pixels() const
+    {
+        Pixels seen {};
+        for (size_t index = 0; index < places.size(); ++index) {
+            const auto [x, y] = places[index];
+            xcb_connection_t *xcb = m_connection.xcb();
+            const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+                xcb, xcb_get_image(xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, m_connection.root(), x, y, 1, 1, ~0u), nullptr));
+            if (reply)
+                std::memcpy(&seen[index], xcb_get_image_data(reply.get()), sizeof(uint32_t));
+            seen[index] &= 0xffffff;
+        }
+        return seen;
+    }
+
+private:
+    X11Connection &m_connection;
+};
+
+bool waitUntil(const std::function<bool()> &condition)
+{
+    QElapsedTimer timer;
+    for (timer.start(); !condition(); QThread::usleep(400)) { // looking must not take a core from who is looked at
+        if (timer.hasExpired(20'000))
+            return false;
+    }
+    return true;
+}
+
+QDBusPendingCall request(const QString &subject, const QVariantMap &options)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.tessaly.Tessaly"),
+        QStringLiteral("/org/tessaly/Tessaly"), QStringLiteral("org.tessaly.Automation1"), QStringLiteral("Capture"));
+    call.setArguments({ subject, options });
+    return QDBusConnection::sessionBus().asyncCall(call, 60'000);
+}
+
+bool differsEverywhere(const Pixels &one, const Pixels &other)
+{
+    for (size_t index = 0; index < one.size(); ++index) {
+        if (one[index] == other[index])
+            return false;
+    }
+    return true;
+}
+
+/// Milliseconds from the request to the overlay on the whole screen; it is then closed. Empty when it did not appear.
+std::optional<double> opening(const Watcher &watcher)
+{
+    const Pixels before = watcher.pixels();
+    QElapsedTimer timer;
+    timer.start();
+    QDBusPendingCall call = request(QStringLiteral("region"), {});
+    if (!waitUntil([&] { return differsEverywhere(watcher.pixels(), before); }))
+        return std::nullopt;
+    const double milliseconds = double(timer.nsecsElapsed()) / 1e6;
+    QThread::msleep(300); // the user looks
+    QProcess::execute(QStringLiteral("xdotool"), { QStringLiteral("key"), QStringLiteral("Escape") });
+    call.waitForFinished();
+    if (!waitUntil([&] { return watcher.pixels() == before; }))
+        return std::nullopt;
+    QThread::msleep(200);
+    return milliseconds;
+}
+
+/// Whole screens and, since the history writes them to the disk, nine times as many pieces of different sizes.
+bool copyScreens(int count)
+{
+    for (int i = 0; i < count; ++i) {
+        QVariantMap options { { QStringLiteral("to"), QStringLiteral("clipboard") } };
+        const bool isWhole = i % 10 == 0;
+        if (!isWhole)
+            options.insert(QStringLiteral("rect"), QStringLiteral("40,30,%1,700").arg(300 + 7 * i));
+        QDBusPendingCall call = request(isWhole ? QStringLiteral("full-screen") : QStringLiteral("region"), options);
+        call.waitForFinished();
+        if (call.isError())
+            return false;
+    }
+    QThread::sleep(8); // the notice goes, and the history becomes quiet
+    return true;
+}
+
+/// Bus, window manager and program of their own; all end with this process.
+class Session {
+public:
+    explicit Session(const test::VirtualScreen &screen)
+    {
+        for (const char *name : { "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR" })
+            qputenv(name, m_home.path().toLocal8Bit());
+        for (const char *name : { "QT_QPA_PLATFORM", "WAYLAND_DISPLAY" })
+            qunsetenv(name);
+        qputenv("DISPLAY", screen.displayName().toLatin1());
+        for (QProcess *process : { &m_bus, &m_manager, &m_program })
+            test::endWithThisProcess(*process);
+        m_bus.start(QStringLiteral("dbus-daemon"),
+            { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1") });
+        while (!m_bus.canReadLine() && m_bus.waitForReadyRead(20'000)) { }
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
+        m_manager.start(QStringLiteral("openbox"), {});
+    }
+    ~Session()
+    {
+        for (QProcess *process : { &m_program, &m_manager, &m_bus }) {
+            process->terminate();
+            process->waitForFinished();
+        }
+    }
+
+    bool startProgram()
+    {
+        m_program.start(QStringLiteral(TESSALY_DESKTOP), { QStringLiteral("--resident") });
+        return m_program.waitForStarted() && waitUntil([] {
+            return QDBusConnection::sessionBus().interface()->isServiceRegistered(
+                QStringLiteral("org.tessaly.Tessaly"));
+        });
+    }
+    qint64 program() const { return m_program.processId(); }
+
+private:
+    QTemporaryDir m_home;
+    QProcess m_bus, m_manager, m_program;
+};
+
+int fail(const char *sentence)
+{
+    std::fprintf(stderr, "%s\n", sentence);
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const test::VirtualScreen screen(QStringLiteral("3840x2160x24"));
+    const auto connection = X11Connection::open(screen.displayName());
+    if (!connection)
+        return fail("no X server could be started");
+    const Watcher watcher(**connection);
+    Session session(screen);
+    const QCoreApplication application(argc, argv);
+    QThread::sleep(1); // the window manager takes over
+    watcher.show(busyDesktop());
+    if (!session.startProgram())
+        return fail("the program does not take requests");
+    QThread::sleep(4); // it becomes quiet
+    Limits limits;
+
+    std::vector<double> openings;
+    for (int i = 0; i < 21; ++i) {
+        const auto milliseconds = opening(watcher);
+        if (!milliseconds)
+            return fail("no overlay appeared, or it did not go");
+        if (i == 0)
+            limits.check("request to painted overlay, the first (ms)", *milliseconds, 45, "ms");
+        else
+            openings.push_back(*milliseconds);
+    }
+    std::printf("from %.1f to %.1f ms\n", quantile(openings, 0), quantile(openings, 1));
+    limits.check("request to painted overlay, median", quantile(openings, 0.5), 30, "ms");
+
+    if (!copyScreens(20))
+        return fail("nothing was captured");
+    const auto early = ProcessFigures::memory(session.program());
+    const int earlyFiles = ProcessFigures::openFiles(session.program());
+    if (!copyScreens(480))
+        return fail("nothing was captured");
+    const auto late = ProcessFigures::memory(session.program());
+    std::printf("beside segments of %.1f MiB, %.1f MiB of its own after 20 captures\n", late.segments, early.own);
+    limits.check("growth in 480 captures to the clipboard", late.own - early.own, 2, "MiB");
+    limits.check("files more open after them", ProcessFigures::openFiles(session.program()) - earlyFiles, 0, "");
+
+    QThread::sleep(75); // what is kept for the next capture has been given back
+    const qint64 wakeUps = ProcessFigures::wakeUps(session.program());
+    QThread::sleep(60);
+    limits.check("wake-ups in a minute at rest", double(ProcessFigures::wakeUps(session.program()) - wakeUps), 2, "");
+    const auto rest = ProcessFigures::memory(session.program());
+    std::printf("segments at rest: %.1f MiB\n", rest.segments);
+    limits.check("memory at rest", rest.other, 35, "MiB");
+    std::vector<double> rested;
+    for (int i = 0; i < 3; ++i) {
+        if (i > 0)
+            QThread::sleep(70);
+        rested.push_back(opening(watcher).value_or(1e9));
+    }
+    limits.check("request to painted overlay after a rest, median", quantile(rested, 0.5), 45, "ms");
+    return limits.exitStatus();
+}
