@@ -6,6 +6,7 @@
 #include <QAbstractEventDispatcher>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 
 #include <qpa/qplatformnativeinterface.h>
@@ -51,13 +52,13 @@ LayerConnection::LayerConnection(wl_display *display) : m_display(display), m_qu
 {
     bindGlobals();
     // Qt's thread reads the events of this queue too, and wakes the loop.
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+    connect(thread()->eventDispatcher(), &QAbstractEventDispatcher::aboutToBlock, this,
         [this] { wl_display_dispatch_queue_pending(m_display, m_queue); });
 }
 
 LayerConnection::~LayerConnection()
 {
-    if (!QGuiApplication::instance())
+    if (!qGuiApp)
         return; // everything went with Qt's connection
     if (m_layers)
         zwlr_layer_shell_v1_destroy(m_layers);
