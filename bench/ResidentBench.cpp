@@ -19,6 +19,7 @@
 #include <QThread>
 
 #include <array>
+#include <xcb/res.h>
 
 using namespace tessaly;
 using namespace tessaly::bench;
@@ -52,6 +53,26 @@ public:
         xcb_flush(xcb);
     }
 
+    /// Windows, pixmaps and all else that the server holds for its clients.
+    int resources() const
+    {
+        xcb_connection_t *xcb = m_connection.xcb();
+        const XcbReply<xcb_res_query_clients_reply_t> clients(
+            xcb_res_query_clients_reply(xcb, xcb_res_query_clients(xcb), nullptr));
+        if (!clients)
+            return -1;
+        int count = 0;
+        const xcb_res_client_t *client = xcb_res_query_clients_clients(clients.get());
+        for (int i = 0; i < xcb_res_query_clients_clients_length(clients.get()); ++i) {
+            const XcbReply<xcb_res_query_client_resources_reply_t> held(xcb_res_query_client_resources_reply(
+                xcb, xcb_res_query_client_resources(xcb, client[i].resource_base), nullptr));
+            const xcb_res_type_t *type = held ? xcb_res_query_client_resources_types(held.get()) : nullptr;
+            for (int j = 0; type && j < xcb_res_query_client_resources_types_length(held.get()); ++j)
+                count += static_cast<int>(type[j].count);
+        }
+        return count;
+    }
+
     Pixels pixels() const
     {
         Pixels seen {};
@@ -71,11 +92,11 @@ private:
     X11Connection &m_connection;
 };
 
-bool waitUntil(const std::function<bool()> &condition)
+bool waitUntil(const std::function<bool()> &condition, qint64 longest = 20'000)
 {
     QElapsedTimer timer;
     for (timer.start(); !condition(); QThread::usleep(400)) { // looking must not take a core from who is looked at
-        if (timer.hasExpired(20'000))
+        if (timer.hasExpired(longest))
             return false;
     }
     return true;
@@ -117,21 +138,41 @@ std::optional<double> opening(const Watcher &watcher)
     return milliseconds;
 }
 
-/// Whole screens and, since the history writes them to the disk, nine times as many pieces of different sizes.
-bool copyScreens(int count)
+/// Waits until what the captures have set going is done: the history has written them to the disk, each has been read
+/// for its text, and the notice is gone. Neither the program nor one that it has started then works for a while.
+bool becomesQuiet(qint64 program)
 {
-    for (int i = 0; i < count; ++i) {
-        QVariantMap options { { QStringLiteral("to"), QStringLiteral("clipboard") } };
-        const bool isWhole = i % 10 == 0;
-        if (!isWhole)
-            options.insert(QStringLiteral("rect"), QStringLiteral("40,30,%1,700").arg(300 + 7 * i));
-        QDBusPendingCall call = request(isWhole ? QStringLiteral("full-screen") : QStringLiteral("region"), options);
-        call.waitForFinished();
-        if (call.isError())
+    constexpr qint64 quietTime = 6000, longest = 20 * 60'000; // ms
+    qint64 ticks = -1;
+    QElapsedTimer unchanged;
+    const auto isQuiet = [&] {
+        QThread::msleep(100);
+        if (const qint64 now = ProcessFigures::processorTime(program); std::exchange(ticks, now) != now)
+            unchanged.start();
+        return unchanged.hasExpired(quietTime);
+    };
+    return waitUntil(isQuiet, longest);
+}
+
+bool copyScreen(const QString &rect)
+{
+    QVariantMap options { { QStringLiteral("to"), QStringLiteral("clipboard") } };
+    if (!rect.isEmpty())
+        options.insert(QStringLiteral("rect"), rect);
+    QDBusPendingCall call = request(rect.isEmpty() ? QStringLiteral("full-screen") : QStringLiteral("region"), options);
+    call.waitForFinished();
+    return !call.isError();
+}
+
+/// Whole screens and, since each is read for its text, many more pieces of different sizes. The last one is always the
+/// same: the clipboard holds its picture.
+bool copyScreens(int count, qint64 program)
+{
+    for (int i = 0; i < count - 1; ++i) {
+        if (!copyScreen(i % 40 == 0 ? QString() : QStringLiteral("40,30,%1,220").arg(300 + (7 * i) % 500)))
             return false;
     }
-    QThread::sleep(8); // the notice goes, and the history becomes quiet
-    return true;
+    return copyScreen(QStringLiteral("40,30,700,500")) && becomesQuiet(program);
 }
 
 /// Bus, window manager and program of their own; all end with this process.
@@ -212,24 +253,30 @@ int main(int argc, char **argv)
     std::printf("from %.1f to %.1f ms\n", quantile(openings, 0), quantile(openings, 1));
     limits.check("request to painted overlay, median", quantile(openings, 0.5), 30, "ms");
 
-    if (!copyScreens(20))
-        return fail("nothing was captured");
+    if (!copyScreens(20, session.program()))
+        return fail("nothing was captured, or the program did not become quiet");
     const auto early = ProcessFigures::memory(session.program());
     const int earlyFiles = ProcessFigures::openFiles(session.program());
-    if (!copyScreens(480))
-        return fail("nothing was captured");
+    const int earlyResources = watcher.resources();
+    if (!copyScreens(480, session.program()))
+        return fail("nothing was captured, or the program did not become quiet");
     const auto late = ProcessFigures::memory(session.program());
     std::printf("beside segments of %.1f MiB, %.1f MiB of its own after 20 captures\n", late.segments, early.own);
     limits.check("growth in 480 captures to the clipboard", late.own - early.own, 2, "MiB");
     limits.check("files more open after them", ProcessFigures::openFiles(session.program()) - earlyFiles, 0, "");
+    std::printf("the X server holds %d resources\n", earlyResources);
+    limits.check("X resources more after them", watcher.resources() - earlyResources, 0, "");
 
-    QThread::sleep(75); // what is kept for the next capture has been given back
-    const qint64 wakeUps = ProcessFigures::wakeUps(session.program());
+    QThread::sleep(75); // what is kept for the next capture, and the reader of texts, have been given back
+    const auto wakeUps = ProcessFigures::wakeUps(session.program());
     QThread::sleep(60);
-    limits.check("wake-ups in a minute at rest", double(ProcessFigures::wakeUps(session.program()) - wakeUps), 2, "");
+    limits.check(
+        "wake-ups in a minute at rest", double(ProcessFigures::wakeUpsSince(wakeUps, session.program())), 2, "");
     const auto rest = ProcessFigures::memory(session.program());
     std::printf("segments at rest: %.1f MiB\n", rest.segments);
     limits.check("memory at rest", rest.other, 35, "MiB");
+    limits.check(
+        "other programs that it keeps at rest", double(ProcessFigures::children(session.program()).size()), 0, "");
     std::vector<double> rested;
     for (int i = 0; i < 3; ++i) {
         if (i > 0)

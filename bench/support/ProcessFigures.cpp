@@ -37,16 +37,54 @@ int openFiles(qint64 process)
                                 .size());
 }
 
-qint64 wakeUps(qint64 process)
+/// Of /proc/…/stat, from the process's state on.
+static QList<QByteArray> status(qint64 process)
 {
-    qint64 count = 0;
+    const QByteArray line = linesOf(folderOf(process) + QStringLiteral("stat")).value(0);
+    return line.mid(line.lastIndexOf(')') + 2).split(' ');
+}
+
+QList<qint64> children(qint64 process)
+{
+    QList<qint64> children;
+    for (const QString &name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        constexpr int parent = 1;
+        if (const qint64 id = name.toLongLong(); id > 0 && status(id).value(parent).toLongLong() == process)
+            children += id;
+    }
+    return children;
+}
+
+qint64 processorTime(qint64 process)
+{
+    constexpr int inProgram = 11, inSystem = 12;
+    qint64 ticks = 0;
+    for (const qint64 each : children(process) + QList<qint64> { process }) {
+        const QList<QByteArray> fields = status(each);
+        ticks += fields.value(inProgram).toLongLong() + fields.value(inSystem).toLongLong();
+    }
+    return ticks;
+}
+
+QHash<QString, qint64> wakeUps(qint64 process)
+{
+    QHash<QString, qint64> counts;
     const QDir tasks(folderOf(process) + QStringLiteral("task"));
     for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         for (const QByteArray &line : linesOf(tasks.filePath(task + QStringLiteral("/status")))) {
             if (line.startsWith("voluntary_ctxt_switches:"))
-                count += line.simplified().split(' ')[1].toLongLong();
+                counts[task] = line.simplified().split(' ')[1].toLongLong();
         }
     }
+    return counts;
+}
+
+qint64 wakeUpsSince(const QHash<QString, qint64> &before, qint64 process)
+{
+    qint64 count = 0;
+    const QHash<QString, qint64> after = wakeUps(process);
+    for (auto thread = after.cbegin(); thread != after.cend(); ++thread)
+        count += thread.value() - before.value(thread.key());
     return count;
 }
 

@@ -7,7 +7,9 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusReply>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QEventLoop>
 
 #include <limits>
 
@@ -39,12 +41,37 @@ static QDBusMessage callOf(const char *method)
     return call;
 }
 
+constexpr int patience = 5'000; // milliseconds, for what is done at once
+
+/// A call that is done when it returns, or the bus is gone. A call that only blocked would then never return.
+static QDBusPendingReply<QVariantMap> answerTo(const QDBusMessage &call)
+{
+    constexpr int forEver = std::numeric_limits<int>::max(); // the user may take any time to select
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QEventLoop loop;
+    bus.connect({}, QLatin1StringView(AutomationNames::localObject), QLatin1StringView(AutomationNames::localInterface),
+        QLatin1StringView(AutomationNames::disconnected), &loop, SLOT(quit()));
+    const QDBusPendingCallWatcher answer(bus.asyncCall(call, forEver));
+    QObject::connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    if (!answer.isFinished())
+        loop.exec();
+    return answer;
+}
+
 bool stay()
 {
-    constexpr int patience = 5'000; // milliseconds
     return SessionBus::isThere()
         && QDBusConnection::sessionBus().call(callOf("Stay"), QDBus::Block, patience).type()
         == QDBusMessage::ReplyMessage;
+}
+
+void ignoreFile(const QString &path)
+{
+    if (!SessionBus::isThere())
+        return;
+    QDBusMessage call = callOf("IgnoreFile");
+    call.setArguments({ path });
+    QDBusConnection::sessionBus().call(call, QDBus::Block, patience); // where none runs nothing is watched
 }
 
 void unlockPinnedScreenshots()
@@ -55,17 +82,19 @@ void unlockPinnedScreenshots()
 
 std::optional<CaptureOutcome> capture(const QString &subject, const QVariantMap &options)
 {
-    if (!SessionBus::isThere())
+    if (!SessionBus::isThere() || !QDBusConnection::sessionBus().isConnected())
         return std::nullopt;
     QVariantMap attended = options;
     attended.insert(QLatin1StringView(AutomationNames::untilCallerLeaves), true);
     QDBusMessage request = callOf("Capture");
     request.setArguments({ subject, attended });
-    constexpr int forEver = std::numeric_limits<int>::max(); // the user may take any time to select
-    const QDBusReply<QVariantMap> reply = QDBusConnection::sessionBus().call(request, QDBus::Block, forEver);
+    const auto reply = answerTo(request);
+    if (!reply.isFinished())
+        return Failure { QCoreApplication::translate(
+            "AutomationClient", "The session bus ended before the capture was done.") };
     if (reply.isValid())
         return outcomeFrom(reply.value());
-    if (isUnheard(reply.error()) || !QDBusConnection::sessionBus().isConnected())
+    if (isUnheard(reply.error()))
         return std::nullopt;
     if (reply.error().type() == QDBusError::InvalidArgs)
         return Failure { reply.error().message() };

@@ -12,6 +12,9 @@ namespace tessaly::AutomationClient {
 /// AutomationService. There must be a QCoreApplication.
 std::optional<CaptureOutcome> capture(const QString &subject, const QVariantMap &options);
 
+/// Lets it leave alone a file that is about to appear in the folder that it watches; returns when it knows.
+void ignoreFile(const QString &path);
+
 /// Asks it to run on when no window is left; false where none runs.
 bool stay();
 

@@ -16,4 +16,9 @@ inline constexpr char captured[] = "captured";
 inline constexpr char cancelled[] = "cancelled";
 inline constexpr char failed[] = "failed";
 
+// What the bus's library says when the bus has ended.
+inline constexpr char localObject[] = "/org/freedesktop/DBus/Local";
+inline constexpr char localInterface[] = "org.freedesktop.DBus.Local";
+inline constexpr char disconnected[] = "Disconnected";
+
 } // namespace tessaly::AutomationNames

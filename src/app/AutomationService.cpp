@@ -36,6 +36,13 @@ AutomationService::AutomationService(std::function<CaptureService &()> captures)
 
 AutomationService::~AutomationService() { release(); }
 
+/// Without the bus nobody waits any more.
+void AutomationService::handleDisconnected()
+{
+    if (!m_waiting.watchedServices().isEmpty())
+        m_captures().cancel();
+}
+
 bool AutomationService::claim()
 {
     if (m_claimed || !SessionBus::isThere())
@@ -45,7 +52,11 @@ bool AutomationService::claim()
     m_claimed
         = bus.registerObject(QLatin1StringView(AutomationNames::object), this, QDBusConnection::ExportScriptableSlots)
         && bus.registerService(QLatin1StringView(AutomationNames::service));
-    if (!m_claimed)
+    if (m_claimed)
+        bus.connect({}, QLatin1StringView(AutomationNames::localObject),
+            QLatin1StringView(AutomationNames::localInterface), QLatin1StringView(AutomationNames::disconnected), this,
+            SLOT(handleDisconnected()));
+    else
         bus.unregisterObject(QLatin1StringView(AutomationNames::object));
     return m_claimed;
 }
@@ -94,6 +105,7 @@ QVariantMap AutomationService::Capture(const QString &subject, const QVariantMap
 }
 
 void AutomationService::Stay() { Q_EMIT stayRequested(); }
+void AutomationService::IgnoreFile(const QString &path) { Q_EMIT ignoreRequested(path); }
 void AutomationService::UnlockPinnedScreenshots() { Q_EMIT unlockRequested(); }
 
 void AutomationService::Quit()

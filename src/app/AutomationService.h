@@ -37,6 +37,8 @@ public Q_SLOTS: // by the names that they have on the bus
     Q_SCRIPTABLE QVariantMap Capture(const QString &subject, const QVariantMap &options);
     /// Runs on from now when no window is left.
     Q_SCRIPTABLE void Stay();
+    /// Leaves alone a file that the caller is about to write into the folder of the desktop's screenshots.
+    Q_SCRIPTABLE void IgnoreFile(const QString &path);
     /// Lets every pinned screenshot take clicks again.
     Q_SCRIPTABLE void UnlockPinnedScreenshots();
     /// Ends the program, unless the user keeps something open that is not saved.
@@ -46,6 +48,10 @@ Q_SIGNALS:
     void quitRequested();
     void stayRequested();
     void unlockRequested();
+    void ignoreRequested(const QString &path);
+
+private Q_SLOTS:
+    void handleDisconnected();
 
 private:
     void handleLeft(const QString &caller);

@@ -12,6 +12,7 @@
 #include "app/SessionClipboard.h"
 #include "core/Base/Clock.h"
 #include "core/Capture/RequestReading.h"
+#include "core/Capture/ToastsBetweenCaptures.h"
 #include "core/Document/DocumentActions.h"
 #include "core/Document/RecentDocuments.h"
 #include "core/Editing/MarkCommands.h"
@@ -36,6 +37,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QWindow>
 
 namespace tessaly {
 
@@ -52,9 +54,6 @@ constexpr std::chrono::milliseconds quietDelay = 500ms;
 /// Nothing is recognised for the history while the program is first used.
 constexpr std::chrono::milliseconds recognitionDelay = 3s;
 
-/// Between two looks whether a capture has ended.
-constexpr std::chrono::milliseconds captureLook = 500ms;
-
 /// How long a notice stays that is a whole sentence.
 constexpr std::chrono::milliseconds sentenceDuration = 4s;
 
@@ -68,7 +67,7 @@ public:
         QCoreApplication::installTranslator(&texts);
         QGuiApplication::setWindowIcon(Icons::application());
         if (!DesktopChoice::windowsPlaceThemselves())
-            toasts.setLayers(&windowLayers());
+            windowToasts.setLayers(&windowLayers());
     }
 
     PlatformTexts texts;
@@ -90,7 +89,8 @@ public:
     CaptureHistory history { { { HistoryStore::defaultDirectory() }, settings, clock } };
     DesktopLinks links;
     std::unique_ptr<WindowLayers> layers; ///< when a window first lies above others
-    WidgetToasts toasts;
+    WidgetToasts windowToasts;
+    ToastsBetweenCaptures toasts { windowToasts };
     WorkerRecognizer recognizer { { WorkerRecognizer::systemLanguages() } };
     TextCopier textCopier { recognizer, clipboard, toasts, links };
     CaptureCommands captureCommands { { [this] { return desk.get(); },
@@ -116,7 +116,6 @@ public:
     CaptureDesk &captureDesk();
     void connectWindows();
     void connectNotices();
-    void showNotice(const QString &sentence);
     void recognizeForHistory();
     void loadHistory();
     bool leavesToOther();
@@ -144,6 +143,8 @@ CaptureDesk &TessalyApp::Services::captureDesk()
         toasts, alerts, openPanels, clock, windowLayers(),
         [this](RasterImage image, const QString &title) { editors.openCapture(std::move(image), title); } });
     const auto look = [this] { endIfUnneeded(); };
+    toasts.setCaptures(desk->captures());
+    QObject::connect(&desk->captures(), &CaptureService::becameIdle, qApp, look, Qt::QueuedConnection);
     QObject::connect(&desk->thumbnails(), &QuickAccessController::emptied, qApp, look, Qt::QueuedConnection);
     QObject::connect(&desk->pins(), &PinnedScreenshotController::countsChanged, qApp, look, Qt::QueuedConnection);
     return *desk;
@@ -157,10 +158,15 @@ void TessalyApp::Services::connectWindows()
     QObject::connect(&editors, &EditorWindowController::allClosed, qApp, look, Qt::QueuedConnection);
     QObject::connect(&start, &StartWindowController::closed, qApp, look, Qt::QueuedConnection);
     QObject::connect(&clipboard, &SessionClipboard::lost, qApp, look);
+    QObject::connect(&textCopier, &TextCopier::finished, qApp, look, Qt::QueuedConnection);
     QObject::connect(&editors, &EditorWindowController::startWindowRequested, qApp, [this] { start.show(); });
     QObject::connect(&editors, &EditorWindowController::quitRequested, qApp, [this] { endWhenAsked(); });
     QObject::connect(&automation, &AutomationService::quitRequested, qApp, [this] { endWhenAsked(); });
     QObject::connect(&automation, &AutomationService::stayRequested, qApp, [this] { stays = true; });
+    QObject::connect(&automation, &AutomationService::ignoreRequested, qApp, [this](const QString &path) {
+        if (desk)
+            desk->watcher().ignorePath(path);
+    });
     QObject::connect(&automation, &AutomationService::unlockRequested, qApp, [this] {
         if (desk)
             desk->pins().unlockAll();
@@ -181,11 +187,14 @@ void TessalyApp::Services::endIfUnneeded()
 {
     if (isNeeded())
         return;
-    const auto isVisible = [](const QWidget *window) { return window->isVisible(); };
-    if (!isErrand || std::ranges::none_of(QApplication::topLevelWidgets(), isVisible))
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto shown = std::ranges::find_if(windows, &QWindow::isVisible);
+    if (!isErrand || shown == windows.end())
         return QApplication::exit(status);
-    constexpr std::chrono::milliseconds untilNextLook = 200ms; // a notice is being read
-    QTimer::singleShot(untilNextLook, qApp, [this] { endIfUnneeded(); });
+    // A notice is being read. Which of several windows is asked does not matter: the next is looked for then.
+    QObject::connect(
+        *shown, &QWindow::visibleChanged, qApp, [this] { endIfUnneeded(); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void TessalyApp::Services::endWhenAsked()
@@ -205,20 +214,11 @@ void TessalyApp::Services::finish()
     clipboard.handOver();
 }
 
-/// It waits for the end of a capture, in whose picture it would lie.
-void TessalyApp::Services::showNotice(const QString &sentence)
-{
-    if (desk && desk->captures().isBusy())
-        QTimer::singleShot(captureLook, qApp, [this, sentence] { showNotice(sentence); });
-    else
-        toasts.show(sentence, sentenceDuration);
-}
-
 void TessalyApp::Services::connectNotices()
 {
-    QObject::connect(
-        &history, &CaptureHistory::notice, qApp, [this](const QString &sentence) { showNotice(sentence); });
-    recognizer.notice = [this](const QString &sentence) { showNotice(sentence); };
+    const auto show = [this](const QString &sentence) { toasts.show(sentence, sentenceDuration); };
+    QObject::connect(&history, &CaptureHistory::notice, qApp, show);
+    recognizer.notice = show;
 }
 
 void TessalyApp::Services::recognizeForHistory()
@@ -259,14 +259,13 @@ bool TessalyApp::Services::leavesToOther()
 /// What the start need not wait for.
 void TessalyApp::Services::settleDown()
 {
+    // Whoever finds the program there may save a screenshot at once.
+    if (settings.value(SettingKeys::watchSystemScreenshots))
+        captureDesk().watcher().start();
     if (!automation.claim() && leavesToOther())
         return QApplication::exit(status);
-    if (stays || settings.value(SettingKeys::watchSystemScreenshots))
-        captureDesk();
     if (stays)
-        desk->captures().prepare();
-    if (settings.value(SettingKeys::watchSystemScreenshots))
-        desk->watcher().start();
+        captureDesk().captures().prepare();
 }
 
 void TessalyApp::Services::capture(const DesktopArguments::Capture &wanted)

@@ -21,5 +21,6 @@ int main(int argc, char **argv)
                         WorkerRecognizer::Options { WorkerRecognizer::systemLanguages() });
                 },
             .windowSource = PlatformChoice::windowSource,
-            .askProgram = AutomationClient::capture });
+            .askProgram = AutomationClient::capture,
+            .announceFile = AutomationClient::ignoreFile });
 }

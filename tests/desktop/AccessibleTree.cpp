@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/AccessibleTree.h"
+#include "tests/support/Patience.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -38,6 +39,7 @@ SeenControl described(const Handle &handle)
     control.role = taken(atspi_accessible_get_role_name(handle.get(), nullptr));
     if (AtspiStateSet *states = atspi_accessible_get_state_set(handle.get())) {
         control.showing = has(states, ATSPI_STATE_SHOWING) && has(states, ATSPI_STATE_VISIBLE);
+        control.active = has(states, ATSPI_STATE_ACTIVE);
         control.checked = has(states, ATSPI_STATE_CHECKED);
         control.sensitive = has(states, ATSPI_STATE_SENSITIVE);
         g_object_unref(states);
@@ -68,7 +70,12 @@ void collect(const Handle &parent, int depth, QList<SeenControl> &found)
 
 } // namespace
 
-AccessibleTree::AccessibleTree(QString application) : m_application(std::move(application)) { atspi_init(); }
+AccessibleTree::AccessibleTree(QString application) : m_application(std::move(application))
+{
+    atspi_init();
+    // Else a busy program looks as if it had nothing on the screen.
+    atspi_set_timeout(patience, patience);
+}
 
 QList<SeenControl> AccessibleTree::controls() const
 {
@@ -87,10 +94,22 @@ QList<SeenControl> AccessibleTree::controls() const
 
 std::optional<SeenControl> AccessibleTree::find(const QString &name, const QString &role) const
 {
-    const QDeadlineTimer deadline(15'000);
+    return waitFor(name, role, [](const SeenControl &) { return true; });
+}
+
+bool AccessibleTree::waitUntilActive(const QString &name, const QString &role) const
+{
+    return waitFor(name, role, [](const SeenControl &control) { return control.active; }).has_value();
+}
+
+std::optional<SeenControl> AccessibleTree::waitFor(
+    const QString &name, const QString &role, const std::function<bool(const SeenControl &)> &isWanted) const
+{
+    const QDeadlineTimer deadline(patience);
     do {
         for (const SeenControl &control : controls()) {
-            if (control.showing && control.name.startsWith(name) && (role.isEmpty() || control.role == role))
+            if (control.showing && control.name.startsWith(name) && (role.isEmpty() || control.role == role)
+                && isWanted(control))
                 return control;
         }
         QThread::msleep(50);
@@ -98,7 +117,7 @@ std::optional<SeenControl> AccessibleTree::find(const QString &name, const QStri
     QStringList seen;
     for (const SeenControl &control : controls()) {
         if (control.showing && !control.name.isEmpty())
-            seen += control.role + u' ' + control.name;
+            seen += QLatin1StringView(control.active ? "active " : "") + control.role + u' ' + control.name;
     }
     qWarning().noquote() << "no" << name << "among" << seen.join(u", ");
     return std::nullopt;

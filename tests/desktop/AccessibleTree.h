@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,6 +20,7 @@ struct SeenControl {
     QString role; ///< "push button", "check box"
     QRect rect; ///< pixels of the screen
     bool showing = false;
+    bool active = false; ///< a window that has the keyboard
     bool checked = false;
     bool sensitive = false;
 };
@@ -31,9 +33,12 @@ public:
     /// All controls of all windows, those within others after them.
     QList<SeenControl> controls() const;
 
-    /// The first control on the screen whose name starts with `name`, of that role where one is given; waits up to 15
-    /// seconds for it to appear. Empty when it does not.
+    /// The first control on the screen whose name starts with `name`, of that role where one is given; waits for it to
+    /// appear. Empty when it does not.
     std::optional<SeenControl> find(const QString &name, const QString &role = {}) const;
+
+    /// Waits until such a window has the keyboard, which it gets some time after it was shown.
+    bool waitUntilActive(const QString &name, const QString &role = {}) const;
 
     /// Whether such a control is on the screen now.
     bool shows(const QString &name) const;
@@ -42,6 +47,9 @@ public:
     bool activate(const SeenControl &control) const;
 
 private:
+    std::optional<SeenControl> waitFor(
+        const QString &name, const QString &role, const std::function<bool(const SeenControl &)> &isWanted) const;
+
     QString m_application;
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 
 #include <QDir>
@@ -25,7 +26,7 @@ class BadFilesTest : public QObject {
     /// Waits for the alert, reads why, and takes it away.
     bool acknowledge(const QString &alert, const QString &reason)
     {
-        if (!m_session.tree().find(alert, QStringLiteral("alert")) || !m_session.tree().find(reason))
+        if (!m_session.tree().find(reason) || !m_session.tree().waitUntilActive(alert))
             return false;
         m_session.key(QStringLiteral("Return"));
         return m_session.waitUntilGone(reason);
@@ -33,7 +34,8 @@ class BadFilesTest : public QObject {
 
     bool nameInDialog(const QString &path)
     {
-        if (!m_session.click(QStringLiteral("File name:"), QStringLiteral("text")))
+        if (!m_session.tree().waitUntilActive({}, QStringLiteral("dialog"))
+            || !m_session.click(QStringLiteral("File name:"), QStringLiteral("text")))
             return false;
         m_session.key(QStringLiteral("ctrl+a"));
         m_session.type(path);
@@ -79,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(acknowledge(alert, m_session.path(QStringLiteral("text.png is not a picture"))));
         QVERIFY(acknowledge(alert, m_session.path(QStringLiteral("empty.png is empty"))));
         const auto canvas = m_session.tree().find(QStringLiteral("Screenshot, 400 by 300 pixels"));
-        QVERIFY(canvas);
+        QVERIFY(canvas && m_session.tree().waitUntilActive(QStringLiteral("good.png")));
         m_session.key(QStringLiteral("r"));
         const QPoint middle = canvas->rect.center();
         m_session.drag({ middle - QPoint(50, 30), middle + QPoint(40, 40) });
@@ -98,12 +100,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         QFETCH(QString, reason);
+        QVERIFY(m_session.tree().waitUntilActive(QString::fromUtf8(edited)));
         m_session.key(QStringLiteral("ctrl+o"));
         QVERIFY(nameInDialog(m_session.path(file)));
         m_session.key(QStringLiteral("Return"));
         const QString sentence = file == u"file.tessaly" ? reason : m_session.path(reason);
         QVERIFY(acknowledge(QStringLiteral("Couldn't open the document"), sentence));
-        QVERIFY(isAsBefore());
+        QTRY_VERIFY(isAsBefore());
     }
 
     void aFailedSaveLosesNothing_data()
@@ -129,6 +132,7 @@ private Q_SLOTS:
         QFETCH(QString, reason);
         const QString folder = m_session.path(QStringLiteral("gone"));
         QDir().mkpath(folder);
+        QVERIFY(m_session.tree().waitUntilActive(QString::fromUtf8(edited)));
         m_session.key(keys);
         QVERIFY(nameInDialog(m_session.path(path)));
         QDir().rmdir(folder);
@@ -136,16 +140,17 @@ private Q_SLOTS:
         m_session.key(QStringLiteral("Return"));
         QVERIFY(acknowledge(alert, QStringLiteral("%1 could not be written: %2").arg(m_session.path(path), reason)));
         m_session.limitFiles(-1);
-        QVERIFY(isAsBefore());
+        QTRY_VERIFY(isAsBefore());
         QCOMPARE(files(), QStringList());
     }
 
     void aLaterSaveSucceeds()
     {
+        QVERIFY(m_session.tree().waitUntilActive(QString::fromUtf8(edited)));
         m_session.key(QStringLiteral("ctrl+s"));
         QVERIFY(nameInDialog(m_session.path(QStringLiteral("work/out.png"))));
         m_session.key(QStringLiteral("Return"));
-        QVERIFY(m_session.tree().find(QStringLiteral("good.png — Tessaly")));
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("good.png — Tessaly")));
         QCOMPARE(files(), QStringList("out.png"));
         m_session.key(QStringLiteral("ctrl+q"));
         QCOMPARE(m_session.waitForEnd(), 0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 
 #include <QDir>
@@ -71,10 +72,10 @@ private Q_SLOTS:
         row("Escape", QByteArray("{}"), QStringList { "region" }, overlay, false);
         row("right button", QByteArray("{}"), QStringList { "region" }, overlay, true);
         row("picking", QByteArray("{}"), QStringList { "window" }, overlay, false);
-        row("countdown", QByteArray("{}"), QStringList { "full-screen", "--delay", "30", "--to", "clipboard" },
-            QByteArray("30"), false);
-        row("countdown of the settings", QByteArray("{\"captureDelay\":25,\"freezeScreenWhileSelecting\":true}"),
-            QStringList { "region" }, QByteArray("25"), false);
+        row("countdown", QByteArray("{}"), QStringList { "full-screen", "--delay", "999", "--to", "clipboard" },
+            QByteArray("9"), false); // for more than a minute
+        row("countdown of the settings", QByteArray("{\"captureDelay\":199,\"freezeScreenWhileSelecting\":true}"),
+            QStringList { "region" }, QByteArray("1"), false);
     }
 
     void isGivenUp()
@@ -140,8 +141,7 @@ private Q_SLOTS:
         endWithThisProcess(shown);
         shown.start("display", { "-geometry", "+500+300", file("small.png") });
         QJsonArray windows;
-        QTRY_COMPARE_WITH_TIMEOUT(
-            (windows = QJsonDocument::fromJson(tessaly({ "windows", "--json" })).array()).size(), 1, 15'000);
+        QTRY_COMPARE((windows = QJsonDocument::fromJson(tessaly({ "windows", "--json" })).array()).size(), 1);
         const QJsonArray rect = windows[0].toObject()[u"layoutRect"].toArray();
         const QRect place(rect[0].toInt(), rect[1].toInt(), rect[2].toInt(), rect[3].toInt());
         QVERIFY(m_session.startResident(R"({"windowCaptureShadow":false,"windowCaptureTransparentBackground":false})"));
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(commandLine({ "capture", "window", "--window", id, "-o", file("again.png") }), QByteArray("0"));
         QCOMPARE(read(file("again.png")), expected);
         shown.terminate();
-        shown.waitForFinished();
+        shown.waitForFinished(patience);
     }
 
     void capturesOfOneSecondHaveNamesOfTheirOwn()
@@ -199,9 +199,9 @@ private Q_SLOTS:
         QVERIFY(m_session.startResident(R"({"afterCaptureQuickAccess":true,"historyEnabled":false})"));
         for (int i = 0; i < 7; ++i)
             QCOMPARE(commandLine({ "capture", "full-screen", "--to", "editor" }), QByteArray("0"));
-        QTRY_VERIFY_WITH_TIMEOUT(count("Screenshot taken") <= 6, 5'000); // the oldest fades out
+        QTRY_VERIFY(count("Screenshot taken") <= 6); // the oldest fades out
         // They go by themselves.
-        QTRY_VERIFY_WITH_TIMEOUT(count("Screenshot taken") == 0, 20'000);
+        QTRY_VERIFY(count("Screenshot taken") == 0);
     }
 
     void pinnedScreenshotsGrowFaintButStay()
@@ -209,13 +209,13 @@ private Q_SLOTS:
         QVERIFY(m_session.startResident("{}"));
         QCOMPARE(commandLine({ "capture", "region", "--rect", "100,100,240,160", "--to", "editor" }), QByteArray("0"));
         QVERIFY(isShown("Untitled"));
-        QTRY_VERIFY_WITH_TIMEOUT(choose("Pin to Screen"), 15'000);
+        QTRY_VERIFY(choose("Pin to Screen"));
         // A slow answer may have made the test pin a second time, over the first; the wheel turns the upper one.
         const auto pins = [&] {
             return m_session.output("xdotool", { "search", "--onlyvisible", "--name", "^Pinned screenshot" })
                 .split('\n');
         };
-        QTRY_VERIFY_WITH_TIMEOUT(!pins().first().isEmpty(), 15'000);
+        QTRY_VERIFY(!pins().first().isEmpty());
         const auto turnWheel = [&] {
             m_session.output("xdotool",
                 { "mousemove", "--window", pins().first(), "60", "60", "click", "--repeat", "30", "--delay", "20",
@@ -226,7 +226,7 @@ private Q_SLOTS:
             return qRound(100 * answer.split('=').last().trimmed().toDouble() / 0xffffffff) == 20;
         };
         turnWheel();
-        QTRY_VERIFY_WITH_TIMEOUT(std::ranges::any_of(pins(), isFaintest), 10'000);
+        QTRY_VERIFY(std::ranges::any_of(pins(), isFaintest));
         turnWheel();
         QVERIFY(std::ranges::any_of(pins(), isFaintest));
         // It is no window of an editor: closing all of those leaves it.

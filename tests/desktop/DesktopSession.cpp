@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/Patience.h"
 
 #include <QColorSpace>
 #include <QDeadlineTimer>
@@ -16,16 +17,15 @@ void end(QProcess &process)
     if (process.state() == QProcess::NotRunning)
         return;
     process.terminate();
-    if (!process.waitForFinished(5'000)) {
+    if (!process.waitForFinished(patience)) {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(patience);
     }
 }
 
-/// Until it is true, for at most 15 seconds.
 bool waitFor(const std::function<bool()> &condition)
 {
-    const QDeadlineTimer deadline(15'000);
+    const QDeadlineTimer deadline(patience);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;
@@ -81,7 +81,7 @@ bool DesktopSession::startBus()
     m_bus.setStandardErrorFile(QProcess::nullDevice());
     m_bus.start(QStringLiteral("dbus-daemon"),
         { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1") });
-    while (!m_bus.canReadLine() && m_bus.waitForReadyRead(20'000)) { }
+    while (!m_bus.canReadLine() && m_bus.waitForReadyRead(patience)) { }
     const QByteArray address = m_bus.readLine().trimmed();
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
     return !address.isEmpty();
@@ -110,7 +110,7 @@ bool DesktopSession::start(const QStringList &arguments)
     m_program.setProcessChannelMode(QProcess::ForwardedChannels);
     m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
     m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
-    return m_program.waitForStarted();
+    return m_program.waitForStarted(patience);
 }
 
 void DesktopSession::splitMonitors() const
@@ -141,7 +141,7 @@ bool DesktopSession::startResident(const QByteArray &settings)
     m_program.setProcessChannelMode(QProcess::ForwardedChannels);
     m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly-desktop"), { QStringLiteral("--resident") });
     m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
-    return m_program.waitForStarted() && waitFor([this] {
+    return m_program.waitForStarted(patience) && waitFor([this] {
         return output(QStringLiteral("dbus-send"),
             { QStringLiteral("--session"), QStringLiteral("--print-reply"),
                 QStringLiteral("--dest=org.freedesktop.DBus"), QStringLiteral("/"),
@@ -167,15 +167,15 @@ std::unique_ptr<QProcess> DesktopSession::command(const QStringList &arguments) 
 int DesktopSession::finish(QProcess &command)
 {
     // It may have been seen to end while something else was waited for.
-    const bool ended = command.state() == QProcess::NotRunning || command.waitForFinished(20'000);
+    const bool ended = command.state() == QProcess::NotRunning || command.waitForFinished(patience);
     const bool normal = command.exitStatus() == QProcess::NormalExit && command.error() != QProcess::FailedToStart;
     return ended && normal ? command.exitCode() : -1;
 }
 
 int DesktopSession::waitForEnd()
 {
-    return m_program.waitForFinished(20'000) && m_program.exitStatus() == QProcess::NormalExit ? m_program.exitCode()
-                                                                                               : -1;
+    return m_program.waitForFinished(patience) && m_program.exitStatus() == QProcess::NormalExit ? m_program.exitCode()
+                                                                                                 : -1;
 }
 
 void DesktopSession::limitFiles(qint64 bytes) const
@@ -190,7 +190,7 @@ QByteArray DesktopSession::output(const QString &program, const QStringList &arg
 {
     QProcess process;
     process.start(program, arguments);
-    const bool done = process.waitForFinished(60'000) && process.exitCode() == 0;
+    const bool done = process.waitForFinished(patience) && process.exitCode() == 0;
     return done ? process.readAllStandardOutput() : QByteArray();
 }
 

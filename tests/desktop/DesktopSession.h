@@ -74,7 +74,7 @@ public:
 
     /// Clicks the middle of the control called so; false when it does not appear.
     bool click(const QString &control, const QString &role = {}) const;
-    /// Waits until no control of that name is on the screen; false after 15 seconds.
+    /// Waits until no control of that name is on the screen; false when it stays.
     bool waitUntilGone(const QString &control) const;
 
     /// The pixels of a picture file as the screen has them: opaque, of no colour space. Null when it cannot be read.

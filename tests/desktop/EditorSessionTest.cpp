@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -46,19 +47,23 @@ class EditorSessionTest : public QObject {
     /// What copying the finished picture puts on the clipboard.
     QImage copiedPicture()
     {
+        m_session.output(
+            QStringLiteral("sh"), { QStringLiteral("-c"), QStringLiteral("xclip -selection clipboard -i /dev/null") });
         m_session.key(QStringLiteral("ctrl+shift+c"));
-        m_session.tree().find(QStringLiteral("Copied to clipboard"));
-        return m_session.clipboardPicture().convertToFormat(QImage::Format_RGB32);
+        QImage picture;
+        static_cast<void>(
+            QTest::qWaitFor([&] { return !(picture = m_session.clipboardPicture()).isNull(); }, patience));
+        return picture.convertToFormat(QImage::Format_RGB32);
     }
 
     bool openByDialog(const QString &path)
     {
         m_session.key(QStringLiteral("ctrl+o"));
-        if (!m_session.tree().find(QStringLiteral("Open"), QStringLiteral("dialog")))
+        if (!m_session.tree().waitUntilActive(QStringLiteral("Open")))
             return false;
         m_session.type(path);
         m_session.key(QStringLiteral("Return"));
-        return m_session.waitUntilGone(QStringLiteral("File name:"));
+        return m_session.tree().waitUntilActive(QFileInfo(path).fileName());
     }
 
     void addStroke()
@@ -87,6 +92,7 @@ private Q_SLOTS:
         const auto canvas = m_session.tree().find(QStringLiteral("Screenshot, 1280 by 900 pixels"));
         QVERIFY(canvas);
         m_middle = canvas->rect.center();
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("screen.png")));
     }
 
     void drawsEveryKindOfMark()
@@ -151,7 +157,7 @@ private Q_SLOTS:
         m_session.type(m_session.path(QStringLiteral("work.jpg")));
         m_session.key(QStringLiteral("Return"));
         QVERIFY(m_session.waitUntilGone(QStringLiteral("File name:")));
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_session.path(QStringLiteral("work.tessaly/document.json"))), 15'000);
+        QTRY_VERIFY(QFile::exists(m_session.path(QStringLiteral("work.tessaly/document.json"))));
         QCOMPARE(QImage(m_session.path(QStringLiteral("work.jpg"))).isNull(), false);
         QCOMPARE(kindsIn(document()).size(), 13);
     }
@@ -161,7 +167,7 @@ private Q_SLOTS:
         const QString prompt = QStringLiteral("Do you want to save your annotations?");
         // Another window keeps the program, and with it the noise over obscured areas, alive.
         m_session.key(QStringLiteral("ctrl+n"));
-        QVERIFY(m_session.tree().find(QStringLiteral("Untitled")));
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("Untitled")));
         QVERIFY(openByDialog(m_session.path(document())));
         m_finished = copiedPicture();
         QVERIFY(!m_finished.isNull());
@@ -171,12 +177,13 @@ private Q_SLOTS:
         QVERIFY(m_session.tree().find(prompt));
         QVERIFY(m_session.click(QStringLiteral("Cancel")));
         QVERIFY(m_session.waitUntilGone(prompt));
-        QVERIFY(m_session.tree().shows(QStringLiteral("work.tessaly")));
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("work.tessaly")));
 
         m_session.key(QStringLiteral("ctrl+w"));
         QVERIFY(m_session.click(QStringLiteral("Don't Save")));
         QVERIFY(m_session.waitUntilGone(QStringLiteral("work.tessaly")));
         QCOMPARE(markCount(document()), 13);
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("Untitled")));
 
         QVERIFY(openByDialog(m_session.path(document())));
         addStroke();
@@ -184,12 +191,12 @@ private Q_SLOTS:
         QVERIFY(m_session.click(QStringLiteral("Save…")));
         QVERIFY(m_session.waitUntilGone(QStringLiteral("work.tessaly")));
         QCOMPARE(markCount(document()), 14);
+        QVERIFY(m_session.tree().waitUntilActive(QStringLiteral("Untitled")));
     }
 
     void aReopenedDocumentIsWhatWasClosed()
     {
         QVERIFY(openByDialog(m_session.path(document())));
-        QVERIFY(m_session.tree().find(QStringLiteral("work.tessaly")));
         m_session.click(m_middle);
         m_session.key(QStringLiteral("Tab"));
         m_session.key(QStringLiteral("shift+Tab")); // the last mark, which was added on top

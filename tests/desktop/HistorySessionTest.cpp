@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -43,11 +44,13 @@ class HistorySessionTest : public QObject {
         return kinds;
     }
 
-    /// The middle of the capture in the editor.
+    /// The middle of the capture in the editor, which has the keyboard by then.
     std::optional<QPoint> canvas() const
     {
         const auto found = m_session.tree().find(QStringLiteral("Screenshot, 1280 by 900 pixels"));
-        return found ? std::optional(found->rect.center()) : std::nullopt;
+        return found && m_session.tree().waitUntilActive(QStringLiteral("Screenshot"))
+            ? std::optional(found->rect.center())
+            : std::nullopt;
     }
 
 private Q_SLOTS:
@@ -73,7 +76,7 @@ private Q_SLOTS:
     void isFoundByAWordThatWasOnIt()
     {
         QVERIFY(m_session.start({}));
-        QVERIFY(m_session.tree().find(tile()));
+        QVERIFY(m_session.tree().find(tile()) && m_session.tree().waitUntilActive(QString()));
         QVERIFY(m_session.click(QStringLiteral("Search Captures")));
         m_session.type(QStringLiteral("submarine"));
         QVERIFY(m_session.waitUntilGone(tile()));
@@ -104,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(middle);
         m_session.key(QStringLiteral("o"));
         m_session.drag({ *middle + QPoint(60, 60), *middle + QPoint(110, 90) });
-        QTRY_COMPARE_WITH_TIMEOUT(marks(), QStringList({ "rectangle", "ellipse" }), 10'000);
+        QTRY_COMPARE(marks(), QStringList({ "rectangle", "ellipse" }));
         m_session.key(QStringLiteral("ctrl+w"));
         QCOMPARE(m_session.waitForEnd(), 0);
         QCOMPARE(marks().size(), 2);
@@ -130,7 +133,7 @@ private Q_SLOTS:
     void endsWithTheStartWindow()
     {
         QVERIFY(m_session.start({}));
-        QVERIFY(m_session.tree().find(tile()));
+        QVERIFY(m_session.tree().find(tile()) && m_session.tree().waitUntilActive(QString()));
         m_session.key(QStringLiteral("alt+F4"));
         QCOMPARE(m_session.waitForEnd(), 0);
     }

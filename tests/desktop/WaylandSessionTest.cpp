@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/SwaySession.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/WaylandHands.h"
@@ -79,11 +80,8 @@ class WaylandSessionTest : public QObject {
         QVERIFY(background->isShown());
     }
 
-    /// Keys as wtype takes them. It waits until the window that has the keyboard knows of its keyboard.
-    static void type(const QStringList &keys)
-    {
-        QVERIFY(SwaySession::output("wtype", QStringList { "-s", "300" } + keys));
-    }
+    /// Keys as wtype takes them.
+    static void type(const QStringList &keys) { QVERIFY(SwaySession::output("wtype", keys)); }
 
     /// Starts a capture whose overlay then lies on all monitors.
     std::unique_ptr<QProcess> opened(const QStringList &request) const
@@ -91,7 +89,7 @@ class WaylandSessionTest : public QObject {
         auto command = m_session.command(QStringList { "capture" } + request);
         for (int monitor = 0; monitor < monitors.size(); ++monitor) {
             const QRgb light = m_screens[monitor].pixel(3, 4);
-            if (!QTest::qWaitFor([&] { return qGreen(seen(monitor).pixel(3, 4)) < qGreen(light) * 3 / 4; }, 15'000))
+            if (!QTest::qWaitFor([&] { return qGreen(seen(monitor).pixel(3, 4)) < qGreen(light) * 3 / 4; }, patience))
                 return nullptr;
         }
         return command;
@@ -223,8 +221,7 @@ private Q_SLOTS:
         terminal.start("foot", { "--config=/dev/null", "sleep", "1000" });
         QTRY_VERIFY(SwaySession::command("[app_id=foot] focus, fullscreen enable"));
         QJsonObject window;
-        QTRY_COMPARE_WITH_TIMEOUT(
-            (window = windows().at(0).toObject())[u"layoutRect"].toArray(), (QJsonArray { 800, 0, 400, 240 }), 15'000);
+        QTRY_COMPARE((window = windows().at(0).toObject())[u"layoutRect"].toArray(), (QJsonArray { 800, 0, 400, 240 }));
         QImage expected;
         QTRY_VERIFY((expected = seen(1)) != m_screens[1] && expected == seen(1));
         const QImage image = captured({ "window" }, [&] {
@@ -238,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(DesktopSession::pixels(file()), expected);
         QCOMPARE(seen(1), expected); // it has kept its place
         terminal.terminate();
-        terminal.waitForFinished();
+        terminal.waitForFinished(patience);
         QTRY_COMPARE(seen(1), m_screens[1]);
     }
 

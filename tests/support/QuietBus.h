@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tests/support/Patience.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -19,7 +21,7 @@ inline QByteArray startQuietBus(QProcess &process, const QTemporaryDir &folder)
                         "</policy></busconfig>");
     configuration.close();
     process.start("dbus-daemon", { "--nofork", "--print-address", "--config-file", configuration.fileName() });
-    while (!process.canReadLine() && process.waitForReadyRead()) { }
+    while (!process.canReadLine() && process.waitForReadyRead(patience)) { }
     return process.readLine().trimmed();
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/SwaySession.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/TestFiles.h"
+#include "tests/support/VirtualScreen.h"
 
 #include <QDeadlineTimer>
 #include <QJsonArray>
@@ -63,24 +65,46 @@ SwaySession::SwaySession(const QList<Monitor> &monitors)
     qunsetenv("DISPLAY");
     start(monitors.size());
     // It answers when its monitors are set up.
-    QDeadlineTimer deadline(20'000);
-    while (!m_ready && !deadline.hasExpired() && m_sway.state() == QProcess::Running) {
+    const auto has = [](const char *kind, const auto &isThere) {
         const auto answer = output(
-            QStringLiteral("swaymsg"), { QStringLiteral("-t"), QStringLiteral("get_outputs"), QStringLiteral("-r") });
-        m_ready = answer && QJsonDocument::fromJson(*answer).array().size() == monitors.size();
-        if (!m_ready)
-            QThread::msleep(10);
+            QStringLiteral("swaymsg"), { QStringLiteral("-t"), QLatin1StringView(kind), QStringLiteral("-r") });
+        return answer && isThere(QJsonDocument::fromJson(*answer).array());
+    };
+    const bool hasMonitors = waitFor([&] {
+        return has("get_outputs", [&](const QJsonArray &outputs) { return outputs.size() == monitors.size(); });
+    });
+    endWithThisProcess(m_keyboard);
+    m_keyboard.start(QStringLiteral("wtype"), { QStringLiteral("-s"), QStringLiteral("2000000") });
+    m_ready = hasMonitors && waitFor([&] {
+        return has("get_inputs", [](const QJsonArray &inputs) {
+            return std::ranges::any_of(
+                inputs, [](const QJsonValue &input) { return input[u"type"].toString() == u"keyboard"; });
+        });
+    });
+}
+
+/// Until it is true, while sway runs.
+bool SwaySession::waitFor(const std::function<bool()> &condition)
+{
+    const QDeadlineTimer deadline(patience);
+    while (!condition()) {
+        if (deadline.hasExpired() || m_sway.state() != QProcess::Running)
+            return false;
+        QThread::msleep(10);
     }
+    return true;
 }
 
 SwaySession::~SwaySession() { end(); }
 
 void SwaySession::end()
 {
+    m_keyboard.kill();
+    m_keyboard.waitForFinished(patience);
     m_sway.terminate();
-    if (!m_sway.waitForFinished(5'000))
+    if (!m_sway.waitForFinished(patience))
         m_sway.kill();
-    m_sway.waitForFinished();
+    m_sway.waitForFinished(patience);
 }
 
 /// A theme of one pointer, with one pixel that is transparent.
@@ -125,7 +149,7 @@ void SwaySession::start(qsizetype monitorCount)
     m_sway.setStandardErrorFile(path(QStringLiteral("log")), QIODevice::Append);
     m_sway.setChildProcessModifier(becomeHarmless);
     m_sway.start(QStringLiteral("sway"), { QStringLiteral("-c"), path(QStringLiteral("config")) });
-    m_sway.waitForStarted();
+    m_sway.waitForStarted(patience);
 }
 
 bool SwaySession::command(const QString &command) { return output(QStringLiteral("swaymsg"), { command }).has_value(); }
@@ -138,7 +162,7 @@ std::optional<QByteArray> SwaySession::output(
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    if (!process.waitForFinished(20'000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         return {};
     return process.readAllStandardOutput();
 }

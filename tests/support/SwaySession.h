@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <optional>
 
 namespace tessaly::test {
@@ -12,6 +13,7 @@ namespace tessaly::test {
 /// A Wayland compositor without a screen, alive as long as the object. One at a time in a process, since it sets the
 /// process's environment: this process and those it starts are its clients. Sway refuses to run as root; for root it
 /// runs as a user without rights. Its pointer is invisible: without a graphics card it would be in all pictures.
+/// It has a keyboard, so that windows that appear take keys from the first on.
 class SwaySession {
 public:
     struct Monitor {
@@ -45,12 +47,13 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
 private:
+    bool waitFor(const std::function<bool()> &condition);
     bool writeInvisiblePointer() const;
     bool writeConfiguration(const QList<Monitor> &monitors) const;
     void start(qsizetype monitorCount);
 
     QTemporaryDir m_folder, m_ownRuntime;
-    QProcess m_sway;
+    QProcess m_sway, m_keyboard;
     bool m_ready = false;
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/VirtualScreen.h"
+#include "tests/support/Patience.h"
 
 #include <csignal>
 #include <sys/prctl.h>
@@ -20,7 +21,7 @@ VirtualScreen::VirtualScreen(const QString &geometry, const QStringList &argumen
         QStringList { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
             geometry, QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset") }
             + arguments);
-    while (!m_server.canReadLine() && m_server.waitForReadyRead(20'000)) { }
+    while (!m_server.canReadLine() && m_server.waitForReadyRead(patience)) { }
     if (m_server.canReadLine())
         m_displayName = u':' + QString::fromLatin1(m_server.readLine().trimmed());
 }
@@ -28,9 +29,9 @@ VirtualScreen::VirtualScreen(const QString &geometry, const QStringList &argumen
 VirtualScreen::~VirtualScreen()
 {
     m_server.terminate();
-    if (!m_server.waitForFinished(5'000))
+    if (!m_server.waitForFinished(patience))
         m_server.kill();
-    m_server.waitForFinished();
+    m_server.waitForFinished(patience);
 }
 
 int VirtualScreen::run(const QString &program, const QStringList &arguments) const
@@ -42,7 +43,7 @@ int VirtualScreen::run(const QString &program, const QStringList &arguments) con
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(program, arguments);
-    return process.waitForFinished() ? process.exitCode() : -1;
+    return process.waitForFinished(patience) ? process.exitCode() : -1;
 }
 
 } // namespace tessaly::test

@@ -48,13 +48,26 @@ Outcome writeCapture(const RasterImage &picture, ExportFormat format, const Writ
     return written;
 }
 
+/// A Tessaly that watches a folder for the desktop's screenshots must not take this one for one of them.
+void announce(const QString &path, CommandContext &context)
+{
+    const Settings &settings = context.settings();
+    const QString watched = settings.value(SettingKeys::systemScreenshotsFolder);
+    if (!settings.value(SettingKeys::watchSystemScreenshots) || watched.isEmpty() || QFileInfo::exists(path)
+        || QFileInfo(watched).canonicalFilePath() != QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath())
+        return;
+    context.requireEventLoop();
+    context.environment().announceFile(QFileInfo(path).absoluteFilePath());
+}
+
 /// Of processes that save in the same second each gets a name of its own.
-Result<QString> writeNew(const QString &folder, ExportFormat format, const QByteArray &bytes)
+Result<QString> writeNew(const QString &folder, ExportFormat format, const QByteArray &bytes, CommandContext &context)
 {
     const InterruptionGuard guard;
     const QDateTime now = SystemClock().now();
     for (;;) {
         const QString path = ScreenshotNames::freePath(folder, now, extension(format));
+        announce(path, context);
         const auto created = SafeFile::create(path, bytes);
         if (!created)
             return created.failure();
@@ -97,8 +110,11 @@ Outcome captureFile(const CaptureOptions &options, const QString &output, Comman
     if (!picture)
         return picture.failure();
     const auto format = formatOfExtension(QFileInfo(*path).suffix()).value_or(ExportFormat::Png);
-    return writeCapture(
-        *picture, format, [&](const QByteArray &bytes) { return targets->write(*path, bytes); }, context);
+    const auto write = [&](const QByteArray &bytes) {
+        announce(*path, context);
+        return targets->write(*path, bytes);
+    };
+    return writeCapture(*picture, format, write, context);
 }
 
 /// To a new file in the save folder, in the format that the user last chose; its path is printed.
@@ -113,7 +129,7 @@ ExitStatus captureNewFile(const CaptureOptions &options, CommandContext &context
     const ExportFormat format = storedFormat(context.settings());
     QString path;
     const auto write = [&](const QByteArray &bytes) -> Outcome {
-        const auto written = writeNew(folder, format, bytes);
+        const auto written = writeNew(folder, format, bytes, context);
         if (!written)
             return written.failure();
         path = *written;

@@ -22,6 +22,9 @@ struct CommandEnvironment {
     /// The same. Asks the Tessaly that runs, with names and options as on the bus, and waits for the end of the
     /// capture; empty where none runs.
     std::function<std::optional<CaptureOutcome>(const QString &subject, const QVariantMap &options)> askProgram = {};
+    /// The same. Lets the Tessaly that runs, where one does, leave alone a file that is about to appear in the folder
+    /// that it watches.
+    std::function<void(const QString &path)> announceFile = {};
 };
 
 /// Runs one command. The exit status: 0 done, 1 the work failed, 2 wrong usage.

@@ -4,7 +4,6 @@
 #include "core/Capture/PostCaptureRouter.h"
 #include "core/Desktop/Toasts.h"
 #include "core/Export/ExportService.h"
-#include "core/Preferences/Settings.h"
 #include "core/Text/TextCopier.h"
 
 #include <QCoreApplication>
@@ -58,12 +57,7 @@ CaptureOutcome route(const CaptureService::Surroundings &with, const CaptureRequ
 CaptureOutcome deliver(const CaptureService::Surroundings &with, const CaptureRequest &request,
     const RasterImage &image, const QString &sourceName)
 {
-    const CaptureOutcome outcome = route(with, request, image, sourceName.isEmpty() ? tr("Screenshot") : sourceName);
-    // Last, since the setting is written to the disk. One that cannot be written holds for this run all the same.
-    const auto &count = SettingKeys::newsletterCaptureCount;
-    if (request.sink != CaptureSink::Text)
-        static_cast<void>(with.settings.set(count, with.settings.value(count) + 1));
-    return outcome;
+    return route(with, request, image, sourceName.isEmpty() ? tr("Screenshot") : sourceName);
 }
 
 } // namespace tessaly::CaptureDelivery

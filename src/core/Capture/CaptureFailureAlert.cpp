@@ -12,9 +12,16 @@ namespace {
 
 QString tr(const char *text) { return QCoreApplication::translate("CaptureService", text); }
 
+QString message() { return tr("Couldn't capture the screen"); }
+
 } // namespace
 
 void show(const CaptureService::Surroundings &with, const Failure &failure)
+{
+    with.alerts.warn(message(), failure.message);
+}
+
+void showWithWaysOut(const CaptureService::Surroundings &with, const Failure &failure)
 {
     QStringList paragraphs;
     if (const auto wayOut = with.screen.wayOut())
@@ -22,7 +29,7 @@ void show(const CaptureService::Surroundings &with, const Failure &failure)
     paragraphs += tr("Can't grant the permission? Keep using the macOS shortcut ⇧⌘4 and Tessaly will open each "
                      "screenshot in the editor, or paste a screenshot with ⇧⌘N.");
     paragraphs += tr("Detail: %1").arg(failure.message);
-    const int answer = with.alerts.ask({ .message = tr("Couldn't capture the screen"),
+    const int answer = with.alerts.ask({ .message = message(),
         .informativeText = paragraphs.join(QStringLiteral("\n\n")),
         .answers = { { tr("Use System Screenshots…") }, { tr("Close") } },
         .escapeAnswer = 1 });

@@ -5,7 +5,10 @@
 
 namespace tessaly::CaptureFailureAlert {
 
-/// Tells the user why there is no picture and what can be done about it, and waits for the answer.
+/// Tells the user why there is no picture.
 void show(const CaptureService::Surroundings &with, const Failure &failure);
+
+/// The same for a screen that cannot be captured, with what can be done about it; waits for the answer.
+void showWithWaysOut(const CaptureService::Surroundings &with, const Failure &failure);
 
 } // namespace tessaly::CaptureFailureAlert

@@ -85,7 +85,7 @@ void CaptureRun::captureFrontWindow()
     if (!listed)
         return end(listed.failure());
     if (listed->isEmpty())
-        return end(CaptureEngine::noFrontWindow());
+        return end(NothingThere { CaptureEngine::noFrontWindow() });
     captureWindow(listed->first());
 }
 
@@ -107,7 +107,7 @@ void CaptureRun::captureNamedWindow(quint64 id)
         return end(listed.failure());
     const auto window = std::ranges::find(*listed, id, &ScreenWindow::id);
     if (window == listed->end())
-        return end(CaptureEngine::noSuchWindow(id));
+        return end(NothingThere { CaptureEngine::noSuchWindow(id) });
     captureWindow(*window);
 }
 
@@ -147,6 +147,8 @@ void CaptureRun::captureWindow(const ScreenWindow &window)
         const bool transparent = m_with.settings.value(SettingKeys::windowCaptureTransparentBackground);
         m_with.windows.capture(
             window, { .transparentBackground = transparent || shadow }, whileRunning([this, shadow](auto picture) {
+                if (!picture && !picture.failure().cancelled)
+                    return end(NothingThere { picture.failure() }); // mostly since it was closed
                 if (picture && shadow)
                     return endWith(CaptureEngine::withShadow(*picture));
                 endWith(std::move(picture));
@@ -172,9 +174,6 @@ void CaptureRun::end(End how)
     m_with.picker.release();
     m_pictures.clear(); // whole screens, which nobody needs while an editor opens or a panel waits
     ended(std::move(how));
-    // Written to the disk, which the picture need not wait for.
-    if (m_area)
-        LastRegion::save(m_with.settings, *m_area);
 }
 
 } // namespace tessaly

@@ -11,7 +11,11 @@ class HiddenForCapture;
 /// next follows when the desktop or the user has answered. Main thread only.
 class CaptureRun : public std::enable_shared_from_this<CaptureRun> {
 public:
-    using End = std::variant<RasterImage, CaptureCancelled, Failure>;
+    /// The screen could be captured, but not what was asked for.
+    struct NothingThere {
+        Failure failure;
+    };
+    using End = std::variant<RasterImage, CaptureCancelled, Failure, NothingThere>;
 
     /// Own windows are hidden by the run and shown again by who owns it.
     CaptureRun(const CaptureService::Surroundings &with, HiddenForCapture &hidden, CaptureRequest request);
@@ -24,6 +28,8 @@ public:
     void abandon();
 
     const CaptureRequest &request() const { return m_request; }
+    /// That the user has selected, to be remembered.
+    const std::optional<RegionSelection> &area() const { return m_area; }
 
 private:
     using Step = std::function<void()>;
@@ -72,7 +78,7 @@ private:
     bool m_freezes = false;
     bool m_covered = false; ///< a window of the capture itself, overlay or countdown, was shown
     DisplaySnapshots m_pictures; ///< that the selection is cut from; none when the capture is taken anew
-    std::optional<RegionSelection> m_area; ///< to be remembered
+    std::optional<RegionSelection> m_area;
 };
 
 } // namespace tessaly

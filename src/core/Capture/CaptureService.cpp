@@ -23,7 +23,9 @@ struct CaptureService::Implementation {
     void abandonRun();
     void noteSourceApplication();
     void ended(CaptureRun::End how);
-    void fail(const CaptureRequest &request, const Failure &failure);
+    void fail(const CaptureRequest &request, const Failure &failure, bool offersWaysOut);
+    void remember(const CaptureRun &finished, bool counts) const;
+    void finish(const CaptureRequest &request, const CaptureOutcome &outcome) const;
 
     CaptureService &service;
     Surroundings with;
@@ -89,25 +91,56 @@ void CaptureService::Implementation::ended(CaptureRun::End how)
     hidden.restore();
     rest.start();
     readiness.start();
+    const bool captured = std::holds_alternative<RasterImage>(how);
+    if (!captured)
+        remember(*finished, false);
     if (const auto *failure = std::get_if<Failure>(&how))
-        return fail(request, *failure);
-    if (std::holds_alternative<CaptureCancelled>(how))
-        return request.finished(CaptureCancelled {});
+        return fail(request, *failure, true);
+    if (const auto *nothing = std::get_if<CaptureRun::NothingThere>(&how))
+        return fail(request, nothing->failure, false);
+    if (!captured)
+        return finish(request, CaptureCancelled {});
     if (with.settings.value(SettingKeys::captureSound))
         with.sounds.playScreenCapture();
     ++ending;
-    request.finished(CaptureDelivery::deliver(with, request, std::get<RasterImage>(how), sourceName));
+    const auto outcome = CaptureDelivery::deliver(with, request, std::get<RasterImage>(how), sourceName);
+    remember(*finished, request.sink != CaptureSink::Text);
     --ending;
+    finish(request, outcome);
+}
+
+/// In one write, for which the picture has not waited.
+void CaptureService::Implementation::remember(const CaptureRun &finished, bool counts) const
+{
+    const auto change = [&] {
+        if (finished.area())
+            LastRegion::save(with.settings, *finished.area());
+        const auto &count = SettingKeys::newsletterCaptureCount;
+        if (counts)
+            static_cast<void>(with.settings.set(count, with.settings.value(count) + 1));
+    };
+    // What cannot be written holds for this run all the same.
+    static_cast<void>(with.settings.changeTogether(change));
+}
+
+void CaptureService::Implementation::finish(const CaptureRequest &request, const CaptureOutcome &outcome) const
+{
+    request.finished(outcome);
+    if (!service.isBusy())
+        Q_EMIT service.becameIdle();
 }
 
 /// The alert waits for the user and must not do so within the desktop's answer or the overlay's last click.
-void CaptureService::Implementation::fail(const CaptureRequest &request, const Failure &failure)
+void CaptureService::Implementation::fail(const CaptureRequest &request, const Failure &failure, bool offersWaysOut)
 {
     ++ending;
-    const auto tell = [this, finished = request.finished, failure] {
-        CaptureFailureAlert::show(with, failure);
-        finished(failure);
+    const auto tell = [this, request, failure, offersWaysOut] {
+        if (offersWaysOut)
+            CaptureFailureAlert::showWithWaysOut(with, failure);
+        else
+            CaptureFailureAlert::show(with, failure);
         --ending;
+        finish(request, failure);
     };
     QMetaObject::invokeMethod(&service, tell, Qt::QueuedConnection);
 }
@@ -143,6 +176,8 @@ void CaptureService::cancel()
         return;
     self.hidden.restore();
     self.rest.start();
+    if (!isBusy())
+        Q_EMIT becameIdle();
 }
 
 void CaptureService::capture(CaptureMode mode, CaptureSink sink)

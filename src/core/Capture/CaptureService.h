@@ -75,6 +75,10 @@ public:
     /// Makes ready what the first selection would wait for, until the rest.
     void prepare();
 
+Q_SIGNALS:
+    /// isBusy() has become false.
+    void becameIdle();
+
 private:
     struct Implementation;
     std::unique_ptr<Implementation> m_implementation;

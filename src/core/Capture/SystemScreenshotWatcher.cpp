@@ -19,10 +19,10 @@ namespace {
 
 constexpr std::array<QLatin1StringView, 6> imageExtensions { QLatin1StringView("png"), QLatin1StringView("jpg"),
     QLatin1StringView("jpeg"), QLatin1StringView("heic"), QLatin1StringView("tiff"), QLatin1StringView("gif") };
-/// At a file that does not come to rest.
+/// At a file that does not come to rest, until it changes again.
 constexpr int mostLooks = 9;
-/// A file system stamps files with a clock that may be this much behind the one that is asked for the time.
-constexpr std::chrono::milliseconds stampDelay { 20 };
+/// A file system may stamp files in steps as long as this (FAT), or with a clock that is a little behind.
+constexpr std::chrono::seconds stampStep { 2 };
 
 QDateTime creationOf(const QFileInfo &file)
 {
@@ -35,6 +35,7 @@ QDateTime creationOf(const QFileInfo &file)
 SystemScreenshotWatcher::SystemScreenshotWatcher(const Surroundings &surroundings) : m_surroundings(surroundings)
 {
     connect(&m_folder, &WatchedFolder::changed, this, &SystemScreenshotWatcher::scan);
+    connect(&m_folder, &WatchedFolder::fileChanged, this, &SystemScreenshotWatcher::follow);
 }
 
 QString SystemScreenshotWatcher::chosenFolder() const
@@ -47,11 +48,13 @@ void SystemScreenshotWatcher::start()
 {
     stop();
     const QString folder = chosenFolder();
-    if (folder.isEmpty() || !m_folder.open(folder))
+    if (folder.isEmpty())
         return;
     m_startedAt = m_surroundings.clock.now();
-    const QStringList names = m_folder.names();
+    const QStringList names = WatchedFolder::names(folder);
     m_knownFiles = QSet<QString>(names.begin(), names.end());
+    if (m_folder.open(folder))
+        scan(); // what has come before changes are told
 }
 
 void SystemScreenshotWatcher::stop()
@@ -59,6 +62,7 @@ void SystemScreenshotWatcher::stop()
     ++m_session;
     m_folder.close();
     m_knownFiles.clear();
+    m_lookedAt.clear();
     m_ignoredNames.clear();
 }
 
@@ -104,13 +108,15 @@ bool SystemScreenshotWatcher::ignorePath(const QString &path)
 
 void SystemScreenshotWatcher::scan()
 {
-    const QStringList names = m_folder.names();
+    const QStringList names = WatchedFolder::names(m_folder.path());
     const QSet<QString> known = std::exchange(m_knownFiles, QSet<QString>(names.begin(), names.end()));
     for (const QString &name : names) {
         if (known.contains(name) || name.startsWith(u'.') || m_ignoredNames.remove(name))
             continue;
-        if (isAcceptable(name))
-            lookAt({ name });
+        if (!isAcceptable(name))
+            continue;
+        m_folder.watchFile(name);
+        follow(name);
     }
 }
 
@@ -119,18 +125,28 @@ bool SystemScreenshotWatcher::isAcceptable(const QString &name) const
     const QFileInfo file(QDir(m_folder.path()).filePath(name));
     const QString extension = file.suffix().toLower();
     return std::ranges::any_of(imageExtensions, [&](QLatin1StringView each) { return extension == each; })
-        && file.isFile() && creationOf(file) >= m_startedAt.addMSecs(-stampDelay.count());
+        && file.isFile() && creationOf(file) >= m_startedAt.addSecs(-stampStep.count());
+}
+
+void SystemScreenshotWatcher::follow(const QString &name)
+{
+    if (!m_lookedAt.contains(name))
+        lookAt({ name });
 }
 
 void SystemScreenshotWatcher::lookAt(Growing file)
 {
     const QFileInfo info(QDir(m_folder.path()).filePath(file.name));
     const qint64 size = info.isFile() ? info.size() : -1;
-    if (size >= 1 && size == file.size)
-        return open(file.name);
-    if (++file.looks == mostLooks)
+    const bool isAtRest = size >= 1 && size == file.size;
+    if (isAtRest || ++file.looks == mostLooks) {
+        m_lookedAt.remove(file.name);
+        if (isAtRest)
+            open(file.name);
         return;
+    }
     file.size = size;
+    m_lookedAt.insert(file.name);
     QTimer::singleShot(m_surroundings.settling, this, [this, file, session = m_session] {
         if (session == m_session)
             lookAt(file);
@@ -139,9 +155,12 @@ void SystemScreenshotWatcher::lookAt(Growing file)
 
 void SystemScreenshotWatcher::open(const QString &name)
 {
-    // What is no picture was not meant for this program.
-    if (auto image = readImageFile(QDir(m_folder.path()).filePath(name)))
-        found(std::move(*image), name);
+    // What is no picture was not meant for this program, or its tool has only paused: it is looked at when it changes.
+    auto image = readImageFile(QDir(m_folder.path()).filePath(name));
+    if (!image)
+        return;
+    m_folder.forgetFile(name);
+    found(std::move(*image), name);
 }
 
 } // namespace tessaly

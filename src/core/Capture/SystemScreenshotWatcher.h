@@ -62,6 +62,7 @@ private:
     QString chosenFolder() const;
     void scan();
     bool isAcceptable(const QString &name) const;
+    void follow(const QString &name);
     void lookAt(Growing file);
     void open(const QString &name);
 
@@ -70,6 +71,7 @@ private:
     QDateTime m_startedAt;
     int m_session = 0; ///< one for each start; what an earlier one has begun ends
     QSet<QString> m_knownFiles;
+    QSet<QString> m_lookedAt; ///< with another look to come
     QSet<QString> m_ignoredNames;
 };
 

@@ -36,6 +36,11 @@ QString nearestAbove(const QString &path)
 WatchedFolder::WatchedFolder()
 {
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &WatchedFolder::handleChange);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, [this](const QString &path) {
+        const QString name = QFileInfo(path).fileName();
+        watchFile(name); // another file may have taken its place
+        Q_EMIT fileChanged(name);
+    });
 }
 
 bool WatchedFolder::open(const QString &path)
@@ -51,19 +56,25 @@ bool WatchedFolder::open(const QString &path)
 void WatchedFolder::close()
 {
     m_path.clear();
-    if (const QStringList watched = m_watcher.directories(); !watched.isEmpty())
+    if (const QStringList watched = m_watcher.files() + m_watcher.directories(); !watched.isEmpty())
         m_watcher.removePaths(watched);
     m_device = m_number = 0;
 }
 
-QStringList WatchedFolder::names() const
+QStringList WatchedFolder::names(const QString &path)
 {
-    return QDir(m_path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
+    return QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
+}
+
+void WatchedFolder::watchFile(const QString &name)
+{
+    forgetFile(name);
+    m_watcher.addPath(filePath(name));
 }
 
 void WatchedFolder::watch()
 {
-    if (const QStringList watched = m_watcher.directories(); !watched.isEmpty())
+    if (const QStringList watched = m_watcher.files() + m_watcher.directories(); !watched.isEmpty())
         m_watcher.removePaths(watched);
     // The one above tells when this one is moved away, which is nothing that happens in it.
     m_watcher.addPath(nearestAbove(m_path));

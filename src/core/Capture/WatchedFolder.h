@@ -6,8 +6,8 @@
 
 namespace tessaly {
 
-/// Tells when the names in one folder may have changed, also after the folder was moved away, deleted and made again.
-/// Costs nothing while nothing happens. Main thread only.
+/// Tells when the names in one folder may have changed, also after the folder was moved away, deleted and made again,
+/// and when some of its files have. Costs nothing while nothing happens. Main thread only.
 class WatchedFolder : public QObject {
     Q_OBJECT
 
@@ -21,15 +21,21 @@ public:
     const QString &path() const { return m_path; }
 
     /// All, the hidden ones and the folders, too; none while the folder is gone.
-    QStringList names() const;
+    static QStringList names(const QString &path);
+
+    /// Tells of changes to the file of that name, too, until it is forgotten, or the folder is gone.
+    void watchFile(const QString &name);
+    void forgetFile(const QString &name) { m_watcher.removePath(filePath(name)); }
 
 Q_SIGNALS:
     void changed();
+    void fileChanged(const QString &name);
 
 private:
     /// Watches the folder that has the path now, and the nearest one above it that is there.
     void watch();
     void handleChange(const QString &changedPath);
+    QString filePath(const QString &name) const { return m_path + u'/' + name; }
 
     QFileSystemWatcher m_watcher;
     QString m_path;

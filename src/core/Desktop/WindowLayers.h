@@ -21,6 +21,10 @@ public:
     /// Whether see-through windows let others be seen; without it a cover shows a picture.
     virtual bool showsTransparency() const = 0;
 
+    /// Whether the window system keeps what was sent to a window, so that a cover can be sent in parts, one after the
+    /// other through a little memory. Otherwise the memory of a whole one stays with the window system.
+    virtual bool takesParts() const { return false; }
+
     /// A window over everything on a screen: panels, full-screen windows, menus. It takes the keyboard when it is shown
     /// and leaves the focus as it was. Makes the native window, unseen.
     virtual void prepareCover(QWindow &window, QScreen &screen) = 0;

@@ -126,7 +126,18 @@ Outcome Settings::store(const char *key, const QJsonValue &value, const QJsonVal
         m_values.insert(name, value);
     if (m_path.isEmpty() || (m_written && m_values.value(name) == before))
         return Done {};
-    return write();
+    if (!m_collects)
+        return write();
+    m_written = false;
+    return Done {};
+}
+
+Outcome Settings::changeTogether(const std::function<void()> &changes)
+{
+    m_collects = true;
+    changes();
+    m_collects = false;
+    return m_written ? Outcome(Done {}) : write();
 }
 
 Outcome Settings::write()

@@ -6,6 +6,7 @@
 
 #include <QJsonObject>
 
+#include <functional>
 #include <optional>
 
 namespace tessaly {
@@ -34,6 +35,9 @@ public:
     Outcome set(const SettingKey<const char *> &key, const QString &value);
     Outcome set(const SettingKey<SettingKeys::Bytes> &key, const QByteArray &value);
 
+    /// Writes the file once for all that `changes` stores, at its end. Nothing may be waited for meanwhile.
+    Outcome changeTogether(const std::function<void()> &changes);
+
     /// Why the stored settings could not be read; empty when they could, and once their file is put aside.
     const std::optional<Failure> &problem() const { return m_problem; }
 
@@ -45,6 +49,7 @@ private:
     QJsonObject m_values;
     std::optional<Failure> m_problem;
     bool m_written = true; ///< the file, or its absence, holds m_values
+    bool m_collects = false; ///< instead of writing
 };
 
 } // namespace tessaly

@@ -90,19 +90,23 @@ QPoint SelectionModel::gripPoint(Handle handle) const
 
 QRect SelectionModel::handleRect(Handle handle) const
 {
+    const auto [across, down] = edgesOf(handle);
+    const bool isNarrow = m_pixelRect.width() < pixels(roomyPoints);
+    const bool isLow = m_pixelRect.height() < pixels(roomyPoints);
+    if ((across == 0 && isNarrow) || (down == 0 && isLow))
+        return {};
     const int side = pixels(handlePoints);
-    return { gripPoint(handle) - QPoint(side / 2, side / 2), QSize(side, side) };
+    const auto first = [side](int grip, int way, bool isShort) {
+        return !isShort || way == 0 ? grip - side / 2 : way < 0 ? grip - side : grip;
+    };
+    const QPoint grip = gripPoint(handle);
+    return { first(grip.x(), across, isNarrow), first(grip.y(), down, isLow), side, side };
 }
 
-/// The corners come first. The middle of a small selection belongs to none, so that it can still be moved.
+/// The corners come first.
 std::optional<Handle> SelectionModel::handleAt(QPoint pixel) const
 {
     if (!isValid())
-        return {};
-    const int side = pixels(handlePoints);
-    const int insetX = m_pixelRect.width() < 2 * side ? m_pixelRect.width() / 4 : side;
-    const int insetY = m_pixelRect.height() < 2 * side ? m_pixelRect.height() / 4 : side;
-    if ((insetX < side || insetY < side) && m_pixelRect.adjusted(insetX, insetY, -insetX, -insetY).contains(pixel))
         return {};
     const auto found
         = std::ranges::find_if(allHandles, [&](Handle handle) { return handleRect(handle).contains(pixel); });

@@ -20,6 +20,7 @@ inline constexpr std::array allHandles { Handle::TopLeft, Handle::TopRight, Hand
 class SelectionModel {
 public:
     static constexpr double handlePoints = 12; ///< side of a grip's square
+    static constexpr double roomyPoints = 2 * handlePoints; ///< below that, along an axis, grips make room
     static constexpr double smallestPoints = 4; ///< below that, either way, nothing is selected
     static constexpr double stepPoints = 10;
     static constexpr double largeStepPoints = 20;
@@ -49,7 +50,8 @@ public:
     void select(const QRect &pixelRect);
 
     std::optional<Handle> handleAt(QPoint pixel) const;
-    /// The grip's square, in device pixels.
+    /// The grip's square, in device pixels. Where the selection is short, grips lie outside, so that it can be seen
+    /// and moved, and the one in the middle of a short edge is empty.
     QRect handleRect(Handle handle) const;
 
     /// A press begins one of the drags, a release or cancel ends it. `pixel` may lie outside the monitor while

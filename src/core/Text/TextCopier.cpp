@@ -51,6 +51,7 @@ void TextCopier::copyText(const RasterImage &image)
         m_reading = false;
         // A recognition that failed has found nothing.
         announce(result ? deliver(*result) : Nothing {});
+        Q_EMIT finished();
     });
 }
 

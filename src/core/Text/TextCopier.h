@@ -56,6 +56,10 @@ public:
     /// Tells the user. A link is opened only when they ask for it.
     void announce(const Outcome &outcome);
 
+Q_SIGNALS:
+    /// isReading() has become false, and the user has been told.
+    void finished();
+
 private:
     TextRecognizer &m_recognizer;
     Clipboard &m_clipboard;

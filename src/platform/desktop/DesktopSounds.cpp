@@ -12,6 +12,10 @@ namespace tessaly {
 
 namespace {
 
+/// ALSA, by which Canberra plays where there is no sound server, writes a page to the standard error of a computer
+/// without a sound card. This takes its place.
+void ignoreSoundCardError(const char *, int, const char *, int, const char *, ...) { }
+
 /// The library as long as it is loaded. One thread only.
 class Canberra {
 public:
@@ -30,8 +34,10 @@ public:
     {
         if (m_context)
             m_destroy(std::exchange(m_context, nullptr));
-        if (m_library.isLoaded())
-            m_library.unload();
+        for (QLibrary *library : { &m_library, &m_alsa }) {
+            if (library->isLoaded())
+                library->unload();
+        }
     }
 
 private:
@@ -42,8 +48,16 @@ private:
         return function != nullptr;
     }
 
+    void quietenAlsa()
+    {
+        using SetHandler = int(decltype(&ignoreSoundCardError));
+        if (auto *setHandler = reinterpret_cast<SetHandler *>(m_alsa.resolve("snd_lib_error_set_handler")))
+            setHandler(ignoreSoundCardError);
+    }
+
     bool open()
     {
+        quietenAlsa();
         decltype(ca_context_create) *create = nullptr;
         decltype(ca_context_change_props) *describe = nullptr;
         const bool complete = resolve(create, "ca_context_create") && resolve(describe, "ca_context_change_props")
@@ -58,6 +72,7 @@ private:
     }
 
     QLibrary m_library;
+    QLibrary m_alsa { QStringLiteral("libasound.so.2") };
     ca_context *m_context = nullptr;
     decltype(ca_context_play) *m_play = nullptr;
     decltype(ca_context_destroy) *m_destroy = nullptr;

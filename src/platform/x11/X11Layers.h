@@ -16,6 +16,7 @@ public:
 
     /// While a compositing manager runs.
     bool showsTransparency() const override;
+    bool takesParts() const override { return m_implementation != nullptr; }
     void prepareCover(QWindow &window, QScreen &screen) override;
     void showCover(QWindow &window) override;
     void hideCover(QWindow &window) override;

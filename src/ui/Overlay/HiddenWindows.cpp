@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Overlay/HiddenWindows.h"
 
+#include "ui/Style/CaptureProperties.h"
+
 #include <QApplication>
 
 namespace tessaly {
@@ -27,7 +29,7 @@ bool isHiddenForCapture(const QWidget &window)
 {
     if (!window.isVisible() || window.isMinimized() || window.isFullScreen() || isAsking(window))
         return false;
-    return hasTitleBar(window) || window.property("tessalyHiddenForCapture").toBool();
+    return hasTitleBar(window) || window.property(CaptureProperties::hides).toBool();
 }
 
 } // namespace
@@ -54,7 +56,7 @@ QList<quint64> HiddenWindows::hide()
     QList<quint64> ids;
     QWidgetList hiding;
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->property("tessalyEndsWithCapture").toBool()) {
+        if (window->isVisible() && window->property(CaptureProperties::ends).toBool()) {
             ids += window->winId();
             window->close();
         } else if (isHiddenForCapture(*window)) {

@@ -10,9 +10,9 @@
 
 namespace tessaly {
 
-/// The windows of this program that are hidden for a capture: those with a title bar and those with the property
-/// "tessalyHiddenForCapture". Those with the property "tessalyEndsWithCapture", notices, are ended at once; pinned
-/// screenshots stay, since they are part of what the user has laid out. There must be a QApplication.
+/// The windows of this program that are hidden for a capture: those with a title bar and those that say so by
+/// CaptureProperties::hides. Those with CaptureProperties::ends, notices, are ended at once; pinned screenshots stay,
+/// since they are part of what the user has laid out. There must be a QApplication.
 class HiddenWindows final : public QObject, public OwnWindows {
     Q_OBJECT
 

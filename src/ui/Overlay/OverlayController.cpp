@@ -57,7 +57,7 @@ void OverlayController::Implementation::coverScreens()
 
 void OverlayController::Implementation::cover(QScreen &screen)
 {
-    auto *view = new SelectionView(screen, surroundings.layers.showsTransparency());
+    auto *view = new SelectionView(screen, surroundings.layers.showsTransparency(), surroundings.layers.takesParts());
     covers.push_back({ &screen, std::unique_ptr<SelectionView, DeleteLater>(view) });
     surroundings.layers.prepareCover(*view, screen);
     QObject::connect(&screen, &QScreen::geometryChanged, view, [this, screen = &screen] { uncover(screen); });

@@ -43,27 +43,31 @@ QRegion converted(const QRegion &region, double scale, Convert convert)
 
 } // namespace
 
-OverlayWindow::OverlayWindow(QScreen &screen, bool seeThrough) :
+OverlayWindow::OverlayWindow(QScreen &screen, bool seeThrough, bool takesParts) :
     QWindow(&screen),
     m_store(this),
-    m_seeThrough(seeThrough)
+    m_seeThrough(seeThrough),
+    m_takesParts(takesParts)
 {
     setSurfaceType(QSurface::RasterSurface);
     QSurfaceFormat format = requestedFormat();
     format.setAlphaBufferSize(seeThrough ? 8 : 0);
     setFormat(format);
+    // Wayland compositors apply a state with the next picture. Qt asks for none where the size stays as it was, and
+    // does not send again what it has sent: something must be painted.
+    connect(this, &QWindow::windowStateChanged, this, [this] { updatePixels(QRect(0, 0, 1, 1)); });
 }
 
 OverlayWindow::~OverlayWindow() { waitForSurface(); }
 
 void OverlayWindow::prepareSurface()
 {
-    if (m_store.size() == size())
+    if (m_store.size() == storeSize())
         return;
     waitForSurface();
     m_painted = false;
-    m_store.resize(size());
-    m_store.beginPaint(QRect(QPoint(), size()));
+    m_store.resize(storeSize());
+    m_store.beginPaint(QRect(QPoint(), storeSize()));
     // The system gives memory when it is first written to.
     // One thread: the screen is read meanwhile, by this program and the server in turn.
     if (auto *image = dynamic_cast<QImage *>(m_store.paintDevice()); image && !image->isNull())
@@ -95,9 +99,10 @@ void OverlayWindow::paintAhead()
 {
     m_dirty = {};
     waitForSurface();
-    if (m_store.size() != size())
-        m_store.resize(size());
-    paintRegion(pixelsAround(QRect(QPoint(), size()), pixelsPerPoint()));
+    if (m_store.size() != storeSize())
+        m_store.resize(storeSize());
+    if (rowsOfPart() == 0)
+        paintPoints(pointsOf(pixelsAround(QRect(QPoint(), size()), pixelsPerPoint())));
     m_painted = true;
 }
 
@@ -114,11 +119,59 @@ double OverlayWindow::pixelsPerPoint() const
 
 bool OverlayWindow::isResampled() const { return pixelsPerPoint() != devicePixelRatio(); }
 
-/// Paints what the points around the pixels cover. Those points.
-QRegion OverlayWindow::paintRegion(const QRegion &pixels)
+/// Of the window in points, whole device pixels each; 0 where it is painted as a whole.
+int OverlayWindow::rowsOfPart() const
 {
-    const QRect whole(QPoint(), size() + QSize(1, 1));
-    const QRegion points = converted(pixels, pixelsPerPoint(), pointsAround) & whole;
+    constexpr int most = 64, least = 16; // of a wide monitor less than a megabyte, which stays in the processor's cache
+    if (!m_takesParts || isResampled())
+        return 0;
+    const double scale = pixelsPerPoint();
+    for (int rows = int(most / scale); rows * scale >= least; --rows)
+        if (const double pixels = rows * scale; pixels == std::floor(pixels))
+            return rows;
+    return 0;
+}
+
+/// Two parts: one is painted while the other one is being shown.
+QSize OverlayWindow::storeSize() const
+{
+    const int rows = rowsOfPart();
+    return rows > 0 ? QSize(width(), 2 * rows) : size();
+}
+
+/// Around the pixels.
+QRegion OverlayWindow::pointsOf(const QRegion &pixels) const
+{
+    return converted(pixels, pixelsPerPoint(), pointsAround) & QRect(QPoint(), size() + QSize(1, 1));
+}
+
+void OverlayWindow::sendParts(const QRegion &points)
+{
+    const int rows = rowsOfPart();
+    const double scale = pixelsPerPoint();
+    int place = 0; // in the store
+    for (int top = points.boundingRect().top() / rows * rows; top <= points.boundingRect().bottom(); top += rows) {
+        const QRegion part = points & QRect(0, top, width() + 1, rows);
+        if (part.isEmpty())
+            continue;
+        const QRegion stored = part.translated(0, place - top);
+        m_store.beginPaint(stored); // waits until what lies there has been shown
+        if (auto *image = dynamic_cast<QImage *>(m_store.paintDevice())) {
+            const int first = qRound(place * scale);
+            QImage surface(image->scanLine(first), image->width(),
+                std::min(qRound(rows * scale), image->height() - first), image->bytesPerLine(), image->format());
+            const int pixelTop = qRound(top * scale);
+            const QRegion pixels = converted(part, scale, pixelsAround);
+            paint(surface, pixelTop, pixels & surface.rect().translated(0, pixelTop));
+        }
+        m_store.endPaint();
+        m_store.flush(part, nullptr, QPoint(0, place - top));
+        place = rows - place;
+    }
+}
+
+void OverlayWindow::paintPoints(const QRegion &points)
+{
     m_store.beginPaint(points);
     // Every platform with windows of this kind paints into a picture. Around it another one without a scale: a painter
     // would map points to pixels, with blur where the scale is no whole number.
@@ -127,19 +180,18 @@ QRegion OverlayWindow::paintRegion(const QRegion &pixels)
         paintPixels(surface, points);
     }
     m_store.endPaint();
-    return points;
 }
 
 void OverlayWindow::paintPixels(QImage &surface, const QRegion &points)
 {
     const QRegion pixels = converted(points, pixelsPerPoint(), pixelsAround);
     if (!isResampled())
-        return paint(surface, pixels & surface.rect());
+        return paint(surface, 0, pixels & surface.rect());
     if (m_pixels.size() != m_pixelSize) {
         m_pixels = QImage(m_pixelSize, QImage::Format_ARGB32_Premultiplied);
         m_pixels.fill(Qt::transparent);
     }
-    paint(m_pixels, pixels & m_pixels.rect());
+    paint(m_pixels, 0, pixels & m_pixels.rect());
     QPainter painter(&surface);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -149,7 +201,10 @@ void OverlayWindow::paintPixels(QImage &surface, const QRegion &points)
 
 void OverlayWindow::show(const QRegion &points)
 {
-    m_store.flush(points);
+    if (rowsOfPart() > 0)
+        sendParts(points);
+    else
+        m_store.flush(points);
     if (!m_shown) {
         m_shown = true;
         firstShown();
@@ -175,8 +230,12 @@ bool OverlayWindow::event(QEvent *event)
 {
     if (event->type() != QEvent::UpdateRequest)
         return QWindow::event(event);
-    if (m_painted && isExposed() && !m_dirty.isEmpty())
-        show(paintRegion(std::exchange(m_dirty, {})));
+    if (!m_painted || !isExposed() || m_dirty.isEmpty())
+        return true;
+    const QRegion points = pointsOf(std::exchange(m_dirty, {}));
+    if (rowsOfPart() == 0)
+        paintPoints(points);
+    show(points);
     return true;
 }
 

@@ -11,11 +11,12 @@
 namespace tessaly {
 
 /// A window over a whole monitor that is painted in the monitor's device pixels, whatever its scale, and only where it
-/// has changed. Its pixels can be made before it is shown and given back while it is hidden.
+/// has changed. Its pixels can be made before it is shown and given back while it is hidden; where the window system
+/// takes parts, there are only as many as are sent at once.
 class OverlayWindow : public QWindow {
 public:
-    /// A see-through window lets others be seen where it is painted transparent.
-    OverlayWindow(QScreen &screen, bool seeThrough);
+    /// A see-through window lets others be seen where it is painted transparent. For `takesParts` see WindowLayers.
+    OverlayWindow(QScreen &screen, bool seeThrough, bool takesParts);
     ~OverlayWindow() override;
 
     bool isSeeThrough() const { return m_seeThrough; }
@@ -29,14 +30,15 @@ public:
     /// Only while it is hidden.
     void releaseSurface();
 
-    /// Paints everything now, to be shown as soon as the window system shows the window.
+    /// Paints everything now, to be shown as soon as the window system shows the window; in parts, it is painted then.
     void paintAhead();
     /// What was painted is worth nothing any more; the window is hidden.
     void discardPainting();
 
 protected:
-    /// Paints the region, device pixels of the monitor; no other pixel needs to change.
-    virtual void paint(QImage &surface, const QRegion &pixels) = 0;
+    /// Paints the region, device pixels of the monitor; no other pixel needs to change. The surface begins at the
+    /// monitor's row `top`.
+    virtual void paint(QImage &surface, int top, const QRegion &pixels) = 0;
     /// What was painted first after discardPainting() is on its way to the screen.
     virtual void firstShown() { }
 
@@ -52,8 +54,12 @@ protected:
 private:
     double pixelsPerPoint() const;
     bool isResampled() const;
-    QRegion paintRegion(const QRegion &pixels);
+    int rowsOfPart() const;
+    QSize storeSize() const;
+    QRegion pointsOf(const QRegion &pixels) const;
+    void paintPoints(const QRegion &points);
     void paintPixels(QImage &surface, const QRegion &points);
+    void sendParts(const QRegion &points);
     void show(const QRegion &points);
     void showExposed();
     void waitForSurface();
@@ -64,7 +70,7 @@ private:
     std::thread m_preparing;
     QRegion m_dirty; ///< device pixels
     QRegion m_exposed; ///< points that the window system has asked for
-    bool m_seeThrough;
+    bool m_seeThrough, m_takesParts;
     bool m_painted = false;
     bool m_shown = false;
 };

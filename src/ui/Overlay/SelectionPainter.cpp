@@ -27,11 +27,17 @@ void dim(const QRgb *from, QRgb *to, int count)
     }
 }
 
-void paintRows(uchar *surface, qsizetype bytesPerLine, const QRect &rect, const QImage &picture, bool clear)
+struct Rows {
+    uchar *first; ///< of the monitor's row `top`
+    qsizetype bytesPerLine;
+    int top;
+};
+
+void paintRows(const Rows &rows, const QRect &rect, const QImage &picture, bool clear)
 {
     const QRect there = rect & picture.rect();
     for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        auto *to = reinterpret_cast<QRgb *>(surface + y * bytesPerLine);
+        auto *to = reinterpret_cast<QRgb *>(rows.first + (y - rows.top) * rows.bytesPerLine);
         if (picture.isNull() || y > there.bottom()) {
             std::fill_n(to + rect.x(), rect.width(), clear && picture.isNull() ? 0U : seeThroughDim);
             continue;
@@ -45,15 +51,13 @@ void paintRows(uchar *surface, qsizetype bytesPerLine, const QRect &rect, const 
     }
 }
 
-void paintRect(QImage &surface, const QRect &rect, const QImage &picture, bool clear)
+void paintRect(const Rows &rows, const QRect &rect, const QImage &picture, bool clear)
 {
     constexpr int manyPixels = 1 << 20; // a thread is not worth less
     const bool large = rect.width() > 0 && rect.height() > manyPixels / rect.width();
     const int threads = large ? Parallel::defaultThreadCount() : 1;
-    uchar *pixels = surface.bits();
     Parallel::inBands(rect.height(), 4 * threads, threads, [&](int first, int end) {
-        paintRows(pixels, surface.bytesPerLine(), QRect(rect.x(), rect.y() + first, rect.width(), end - first), picture,
-            clear);
+        paintRows(rows, QRect(rect.x(), rect.y() + first, rect.width(), end - first), picture, clear);
     });
 }
 
@@ -76,7 +80,7 @@ QRect labelRect(const QRect &rect, QSize pixelSize, double scale)
     const QFontMetrics metrics(font(scale));
     const QSize size(
         metrics.horizontalAdvance(sizeText(rect)) + pixels(14, scale), metrics.height() + pixels(6, scale));
-    const int gap = pixels(9, scale); // beyond the grips
+    const int gap = pixels(rect.height() < SelectionModel::roomyPoints * scale ? 15 : 9, scale); // beyond the grips
     const int x = std::clamp(rect.x(), 0, std::max(0, pixelSize.width() - size.width()));
     for (const int y : { rect.y() - gap - size.height(), rect.y() + rect.height() + gap })
         if (y >= 0 && y + size.height() <= pixelSize.height())
@@ -122,12 +126,13 @@ QFont font(double scale, double points)
     return font;
 }
 
-void paintGround(QImage &surface, const QRegion &region, const QImage &picture, const QRect &clear)
+void paintGround(QImage &surface, int top, const QRegion &region, const QImage &picture, const QRect &clear)
 {
+    const Rows rows { surface.bits(), surface.bytesPerLine(), top };
     for (const QRect &rect : region - clear)
-        paintRect(surface, rect, picture, false);
+        paintRect(rows, rect, picture, false);
     for (const QRect &rect : region &clear)
-        paintRect(surface, rect, picture, true);
+        paintRect(rows, rect, picture, true);
 }
 
 void paintFrame(QPainter &painter, const Frame &frame, QSize pixelSize, double scale)
@@ -145,7 +150,10 @@ void paintFrame(QPainter &painter, const Frame &frame, QSize pixelSize, double s
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Handle handle : allHandles) {
-        const QRectF grip = gripRect(model.handleRect(handle), scale);
+        const QRect square = model.handleRect(handle);
+        if (square.isEmpty())
+            continue;
+        const QRectF grip = gripRect(square, scale);
         const double edge = 1.5 * scale;
         painter.setPen(QPen(Colors::accent(), edge));
         painter.setBrush(Qt::white);

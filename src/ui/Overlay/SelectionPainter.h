@@ -10,8 +10,9 @@
 /// How a selection looks on its monitor. Everything is in the monitor's device pixels; `scale` is pixels per point.
 namespace tessaly::SelectionPainter {
 
-/// The ground: dimmed, and as it is inside `clear`. Without a picture the surface is left see-through.
-void paintGround(QImage &surface, const QRegion &region, const QImage &picture, const QRect &clear);
+/// The ground: dimmed, and as it is inside `clear`. Without a picture the surface is left see-through. The surface
+/// begins at the monitor's row `top`.
+void paintGround(QImage &surface, int top, const QRegion &region, const QImage &picture, const QRect &clear);
 
 /// A selection's frame, with its size in pixels and with its grips while it is adjusted.
 struct Frame {

@@ -21,7 +21,8 @@ constexpr Qt::CursorShape handleCursors[] = { Qt::SizeFDiagCursor, Qt::SizeBDiag
 
 SelectionLeader::~SelectionLeader() = default;
 
-SelectionView::SelectionView(QScreen &screen, bool seeThrough) : OverlayWindow(screen, seeThrough)
+SelectionView::SelectionView(QScreen &screen, bool seeThrough, bool takesParts) :
+    OverlayWindow(screen, seeThrough, takesParts)
 {
     setCursor(Qt::CrossCursor);
     m_copied.setSingleShot(true);
@@ -174,12 +175,13 @@ void SelectionView::refresh()
     updatePixels(dirty);
 }
 
-void SelectionView::paint(QImage &surface, const QRegion &pixels)
+void SelectionView::paint(QImage &surface, int top, const QRegion &pixels)
 {
-    SelectionPainter::paintGround(surface, pixels, m_picture, m_paintedClear);
+    SelectionPainter::paintGround(surface, top, pixels, m_picture, m_paintedClear);
     if (!footprint(m_painted).intersects(pixels) && !pixels.intersects(m_painted.highlight.rect))
         return;
     QPainter painter(&surface);
+    painter.translate(0, -top);
     painter.setClipRegion(pixels);
     SelectionPainter::paintHighlight(painter, m_painted.highlight, m_display.scale);
     SelectionPainter::paintFrame(painter, m_painted.frame, m_display.pixelSize, m_display.scale);

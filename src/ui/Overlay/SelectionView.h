@@ -31,7 +31,7 @@ public:
 /// The selection on one monitor.
 class SelectionView final : public OverlayWindow {
 public:
-    SelectionView(QScreen &screen, bool seeThrough);
+    SelectionView(QScreen &screen, bool seeThrough, bool takesParts);
 
     /// Begins anew, to be shown. Without a picture the live screen is seen.
     void open(SelectionLeader &leader, const Display &display, const QImage &picture, OverlayMode mode);
@@ -64,7 +64,7 @@ public:
     void refresh();
 
 protected:
-    void paint(QImage &surface, const QRegion &pixels) override;
+    void paint(QImage &surface, int top, const QRegion &pixels) override;
     void firstShown() override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/QuickAccess/FloatPlace.h"
 
+#include "ui/Toast/FloatingPanel.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
@@ -18,6 +20,7 @@ QScreen &screenWithPointer()
 void FloatPlace::prepare(QScreen &screen, const QRect &rect, WindowLayers::Keyboard keyboard)
 {
     m_rect = rect;
+    m_screen = &screen;
     m_window.setScreen(&screen);
     m_window.setGeometry(rect);
     m_window.winId(); // makes the native window
@@ -37,6 +40,14 @@ void FloatPlace::move(const QRect &rect)
     moveAgain();
 }
 
+void FloatPlace::moveTo(QScreen &screen, const QRect &rect, WindowLayers::Keyboard keyboard)
+{
+    m_asked.clear();
+    m_rect = rect;
+    m_screen = &screen;
+    m_layers.prepareFloat(*m_window.windowHandle(), screen, rect.translated(-screen.geometry().topLeft()), keyboard);
+}
+
 void FloatPlace::moveAgain() { m_layers.moveFloat(*m_window.windowHandle(), withinScreen()); }
 
 void FloatPlace::wasMoved(QPoint topLeft)
@@ -50,9 +61,12 @@ void FloatPlace::wasMoved(QPoint topLeft)
     m_rect.moveTopLeft(topLeft);
 }
 
-QRect FloatPlace::withinScreen() const
+/// Qt takes a window that lies over an edge for one of the screen with its middle.
+QScreen &FloatPlace::screen() const
 {
-    return m_rect.translated(-m_window.windowHandle()->screen()->geometry().topLeft());
+    return windowsHaveOpacity() || !m_screen ? *m_window.windowHandle()->screen() : *m_screen;
 }
+
+QRect FloatPlace::withinScreen() const { return m_rect.translated(-screen().geometry().topLeft()); }
 
 } // namespace tessaly

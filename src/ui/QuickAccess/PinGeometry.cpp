@@ -44,6 +44,17 @@ QRect PinGeometry::initialPlace(QSize size, const std::optional<QRect> &near, co
     return CropGeometry::movedInside(place, area).toRect();
 }
 
+QRect PinGeometry::cascaded(const QRect &place, const QList<QPoint> &taken, const QRect &area)
+{
+    for (const int step : { 24, -24 }) {
+        for (QRect next = place; area.contains(next); next.translate(step, step)) {
+            if (!taken.contains(next.topLeft()))
+                return next;
+        }
+    }
+    return place;
+}
+
 QRect PinGeometry::resizedAbout(const QRect &place, QSize size, QPointF fixed)
 {
     const QPointF corner(fixed.x() * (1 - double(size.width()) / place.width()),

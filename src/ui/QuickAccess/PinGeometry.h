@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QRect>
 #include <QSizeF>
 
@@ -27,6 +28,10 @@ double initialZoom(QSizeF pointSize, QSize area);
 
 /// A window of that size about the middle of `near`, or of the area without it, and inside the area.
 QRect initialPlace(QSize size, const std::optional<QRect> &near, const QRect &area);
+
+/// `place`, or the next one inside the area whose top left corner is not taken: 24 points each down to the right, or,
+/// where there is no room, up to the left.
+QRect cascaded(const QRect &place, const QList<QPoint> &taken, const QRect &area);
 
 /// `place` in a new size, with that point of the picture (local to the window) staying where it is.
 QRect resizedAbout(const QRect &place, QSize size, QPointF fixed);

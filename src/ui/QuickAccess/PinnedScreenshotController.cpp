@@ -59,6 +59,9 @@ void PinnedScreenshotController::pin(const RasterImage &image, std::optional<QRe
             .save
             = later([&with](const RasterImage &picture) { with.exports.save(picture, storedFormat(with.settings)); }),
             .openInEditor = later([this](const RasterImage &picture) { openEditor(picture); }) });
+    QList<QPoint> taken;
+    for (const PinnedScreenshotWindow *other : std::as_const(m_implementation->windows))
+        taken += other->place().topLeft();
     m_implementation->windows += window;
     connect(window, &PinnedScreenshotWindow::lockedChanged, this, [this, window] { tellLocked(window->isLocked()); });
     connect(window, &PinnedScreenshotWindow::closed, this, [this, window] {
@@ -66,7 +69,7 @@ void PinnedScreenshotController::pin(const RasterImage &image, std::optional<QRe
             return;
         Q_EMIT countsChanged();
     });
-    window->appear(screenOf(near), near);
+    window->appear(screenOf(near), near, taken);
     Q_EMIT countsChanged();
 }
 

@@ -73,12 +73,13 @@ PinnedScreenshotWindow::PinnedScreenshotWindow(RasterImage image, WindowLayers &
         m_view->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void PinnedScreenshotWindow::appear(QScreen &screen, const std::optional<QRect> &near)
+void PinnedScreenshotWindow::appear(QScreen &screen, const std::optional<QRect> &near, const QList<QPoint> &taken)
 {
     const QRect area = screen.availableGeometry();
     m_zoom = PinGeometry::initialZoom(m_image.pointSize, area.size());
     const QSize size = sizeAtZoom(screen.devicePixelRatio());
-    m_place.prepare(screen, PinGeometry::initialPlace(size, near, area), WindowLayers::Keyboard::OnClick);
+    const QRect place = PinGeometry::cascaded(PinGeometry::initialPlace(size, near, area), taken, area);
+    m_place.prepare(screen, place, WindowLayers::Keyboard::OnClick);
     connect(windowHandle(), &QWindow::screenChanged, this, &PinnedScreenshotWindow::fitToScreenScale);
     show();
     fitToScreenScale();
@@ -131,7 +132,7 @@ void PinnedScreenshotWindow::setLocked(bool locked)
 
 void PinnedScreenshotWindow::moveBy(QPoint distance)
 {
-    m_place.move(PinGeometry::withinReach(m_place.rect().translated(distance), reachOf(*screen())));
+    m_place.move(PinGeometry::withinReach(m_place.rect().translated(distance), reachOf(m_place.screen())));
 }
 
 bool PinnedScreenshotWindow::event(QEvent *event)
@@ -211,10 +212,26 @@ void PinnedScreenshotWindow::mouseMoveEvent(QMouseEvent *event)
     moveBy(corner + distance - m_place.rect().topLeft());
 }
 
-void PinnedScreenshotWindow::mouseReleaseEvent(QMouseEvent *)
+void PinnedScreenshotWindow::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_dragStart.reset();
-    m_isDragging = false;
+    const auto start = std::exchange(m_dragStart, std::nullopt);
+    if (!std::exchange(m_isDragging, false) || !start || windowsHaveOpacity())
+        return;
+    const QPoint pointer = event->globalPosition().toPoint();
+    const QPoint corner = start->second + (event->globalPosition() - start->first).toPoint();
+    // Where the window lies is known again when the release has been handled.
+    QMetaObject::invokeMethod(
+        this, [this, pointer, corner] { droppedAt(pointer, corner); }, Qt::QueuedConnection);
+}
+
+/// One of a Wayland layer belongs to its output, and cannot be dragged to another one: it is shown there instead.
+void PinnedScreenshotWindow::droppedAt(QPoint pointer, QPoint corner)
+{
+    QScreen *there = QGuiApplication::screenAt(pointer);
+    if (!there || there == &m_place.screen())
+        return;
+    const QRect place = PinGeometry::withinReach({ corner, m_place.rect().size() }, there->geometry());
+    m_place.moveTo(*there, place, WindowLayers::Keyboard::OnClick);
 }
 
 void PinnedScreenshotWindow::mouseDoubleClickEvent(QMouseEvent *event)

@@ -30,8 +30,8 @@ public:
     /// Keeps the layers.
     PinnedScreenshotWindow(RasterImage image, WindowLayers &layers, Requests requests);
 
-    /// Shows it about the middle of `near`, or of the screen.
-    void appear(QScreen &screen, const std::optional<QRect> &near);
+    /// Shows it about the middle of `near`, or of the screen; beside the corners that others have `taken`.
+    void appear(QScreen &screen, const std::optional<QRect> &near, const QList<QPoint> &taken);
 
     void copyImage() { m_requests.copy(m_image); }
     void saveImage() { m_requests.save(m_image); }
@@ -75,6 +75,7 @@ private:
     QSize sizeAtZoom(double pixelsPerPoint) const;
     void fitToScreenScale();
     void nudge(QKeyEvent &event);
+    void droppedAt(QPoint pointer, QPoint corner);
 
     RasterImage m_image;
     WindowLayers &m_layers;

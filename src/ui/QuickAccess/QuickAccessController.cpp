@@ -111,8 +111,11 @@ void QuickAccessController::Implementation::layOut()
             sizes += item->panel->size();
         }
         const QList<QRect> places = QuickAccessStack::places(sizes, screen->availableGeometry(), corner);
-        for (size_t index = 0; index < here.size(); ++index)
+        const auto fitting = static_cast<size_t>(places.size());
+        for (size_t index = 0; index < fitting; ++index)
             moveOrShow(*here[index], places[static_cast<qsizetype>(index)], corner);
+        if (here.size() > fitting)
+            return dismiss(*here.back()); // which lays out again
     }
 }
 

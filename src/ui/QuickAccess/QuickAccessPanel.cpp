@@ -2,6 +2,7 @@
 #include "ui/QuickAccess/QuickAccessPanel.h"
 
 #include "ui/QuickAccess/QuickAccessView.h"
+#include "ui/Style/CaptureProperties.h"
 
 #include <QCloseEvent>
 #include <QStyle>
@@ -16,8 +17,8 @@ QuickAccessPanel::QuickAccessPanel(const RasterImage &image, bool showsTextButto
     setObjectName(QStringLiteral("quickAccess"));
     setWindowTitle(tr("Screenshot"));
     setAccessibleName(tr("Screenshot taken"));
-    setProperty("tessalyHiddenForCapture", true);
-    setProperty("tessalyEndsWithCapture", false); // unlike other panels
+    setProperty(CaptureProperties::hides, true);
+    setProperty(CaptureProperties::ends, false); // unlike other panels
     setAttribute(Qt::WA_AlwaysShowToolTips); // its window is never the active one
     constexpr int slideMilliseconds = 220;
     const bool moves = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;

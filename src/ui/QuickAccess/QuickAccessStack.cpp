@@ -23,6 +23,8 @@ QList<QRect> QuickAccessStack::places(const QList<QSize> &sizes, const QRect &ar
             columnWidth = 0;
             below = room.bottom() + 1;
         }
+        if (!places.isEmpty() && inward + size.width() > room.width())
+            break;
         const int left = corner == Corner::BottomLeft ? room.left() + inward : room.right() + 1 - inward - size.width();
         places += QRect(QPoint(left, below - size.height()), size);
         below -= size.height() + spacing;

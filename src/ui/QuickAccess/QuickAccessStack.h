@@ -22,7 +22,8 @@ enum class Corner { BottomRight, BottomLeft };
 Corner chosenCorner(const Settings &settings);
 
 /// The places in the corner of a screen's available area: the first lies in the corner, each other above the one
-/// before it; when the area's height is used up, the next column begins beside the last.
+/// before it; when the area's height is used up, the next column begins beside the last. There are none for those
+/// that would leave the area.
 QList<QRect> places(const QList<QSize> &sizes, const QRect &area, Corner corner);
 
 /// Where a thumbnail begins on its way to its place.

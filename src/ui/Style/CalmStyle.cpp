@@ -97,6 +97,10 @@ void CalmStyle::drawPrimitive(
     case PE_PanelStatusBar:
         painter->fillRect(QRect(option->rect.left(), option->rect.top(), option->rect.width(), 1), Colors::separator());
         return;
+    case PE_PanelTipLabel:
+        painter->fillRect(option->rect, option->palette.toolTipBase());
+        ControlShapes::box(*painter, option->rect, Qt::transparent, Colors::outline(), 0);
+        return;
     case PE_PanelMenu:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         [[fallthrough]];

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Toast/FloatingPanel.h"
 
+#include "ui/Style/CaptureProperties.h"
+
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QStyle>
@@ -19,7 +21,7 @@ FloatingPanel::FloatingPanel(Qt::WindowFlags flags, double cornerRadius) :
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setProperty("tessalyEndsWithCapture", true);
+    setProperty(CaptureProperties::ends, true);
     if (windowsHaveOpacity())
         setWindowOpacity(0);
     constexpr int fadeMilliseconds = 180;

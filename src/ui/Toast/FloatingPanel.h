@@ -11,7 +11,7 @@ namespace tessaly {
 bool windowsHaveOpacity();
 
 /// A small window with rounded corners over everything else. It comes and goes softly, never takes the focus by
-/// itself, and deletes itself when it is closed. A capture ends it, by its property "tessalyEndsWithCapture".
+/// itself, and deletes itself when it is closed. A capture ends it.
 class FloatingPanel : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Capture/CaptureCountdown.h"
 #include "tests/support/FakeCapture.h"
+#include "tests/support/PatientTest.h"
 
 #include <QTest>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Capture/PostCaptureRouter.h"
 #include "tests/core/Capture/CaptureStage.h"
+#include "tests/support/PatientTest.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestFiles.h"
 
 #include <QBuffer>
@@ -29,10 +31,10 @@ class SystemScreenshotWatcherTest : public QObject {
         return test::writeFile(m_folder + u'/' + name, content);
     }
     /// Puts a file that is opened for certain, after which all others before it have been looked at.
-    void putLast()
+    void putLast(const QString &name = QStringLiteral("last.png"))
     {
-        QVERIFY(put(QStringLiteral("last.png")));
-        QTRY_VERIFY(m_found.contains(QStringLiteral("last.png")));
+        QVERIFY(put(name));
+        QTRY_VERIFY(m_found.contains(name));
     }
 
 private Q_SLOTS:
@@ -52,17 +54,15 @@ private Q_SLOTS:
 
     void opensPicturesThatAreNew_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("opened");
-        QTest::newRow("png") << "a b.png" << bytes() << true;
-        QTest::newRow("upper case") << "A.PNG" << bytes() << true;
-        QTest::newRow("jpeg") << "a.jpg" << bytes("jpg") << true;
-        QTest::newRow("hidden") << ".a.png" << bytes() << false;
-        QTest::newRow("another kind") << "a.webp" << bytes() << false;
-        QTest::newRow("pdf") << "a.pdf" << bytes() << false;
-        QTest::newRow("no picture") << "a.png" << QByteArray("text") << false;
-        QTest::newRow("empty") << "a.png" << QByteArray() << false;
+        test::columns<QString, QByteArray, bool>("name", "content", "opened");
+        test::row("png", QStringLiteral("a b.png"), bytes(), true);
+        test::row("upper case", QStringLiteral("A.PNG"), bytes(), true);
+        test::row("jpeg", QStringLiteral("a.jpg"), bytes("jpg"), true);
+        test::row("hidden", QStringLiteral(".a.png"), bytes(), false);
+        test::row("another kind", QStringLiteral("a.webp"), bytes(), false);
+        test::row("pdf", QStringLiteral("a.pdf"), bytes(), false);
+        test::row("no picture", QStringLiteral("a.png"), QByteArray("text"), false);
+        test::row("empty", QStringLiteral("a.png"), QByteArray(), false);
     }
 
     void opensPicturesThatAreNew()
@@ -77,24 +77,28 @@ private Q_SLOTS:
         QCOMPARE(m_found.size(), opened ? 2 : 1);
     }
 
-    void waitsUntilAFileIsWhole()
+    void waitsUntilAFileIsWhole_data()
     {
-        const QByteArray whole = bytes();
-        m_stage->watcher.start();
-        QVERIFY(put(QStringLiteral("a.png"), {}));
-        QTest::qWait(12); // two or three looks
-        QVERIFY(put(QStringLiteral("a.png"), whole));
-        QTRY_COMPARE(m_found, QStringList(QStringLiteral("a.png")));
+        test::columns<int, int>("bytesAtFirst", "pause");
+        test::row("a look at nothing", 0, 12);
+        test::row("more than all looks at nothing", 0, 150);
+        test::row("a look at a part", 60, 12);
+        test::row("more than all looks at a part", 60, 150);
     }
 
-    void givesUpOnAFileThatNeverGrows()
+    void waitsUntilAFileIsWhole()
     {
+        QFETCH(int, bytesAtFirst);
+        QFETCH(int, pause);
         m_stage->watcher.start();
-        QVERIFY(put(QStringLiteral("a.png"), {}));
-        QTest::qWait(150); // far more than all its looks
+        QVERIFY(put(QStringLiteral("a.png"), bytes().left(bytesAtFirst)));
+        QTest::qWait(pause);
+        QVERIFY(m_found.isEmpty());
         QVERIFY(put(QStringLiteral("a.png")));
+        QTRY_COMPARE(m_found, QStringList(QStringLiteral("a.png")));
+        QVERIFY(put(QStringLiteral("a.png"))); // touched
         putLast();
-        QCOMPARE(m_found.size(), 1);
+        QCOMPARE(m_found.size(), 2);
     }
 
     void oldFilesAreNeverOpened()
@@ -123,9 +127,9 @@ private Q_SLOTS:
         putLast();
         QCOMPARE(m_found.size(), 1);
         QVERIFY(QFile::remove(*own));
-        QTest::qWait(20); // the folder's change is noted
+        putLast(QStringLiteral("later.png")); // by then the removal is known
         QVERIFY(put(QFileInfo(*own).fileName()));
-        QTRY_COMPARE(m_found.size(), 2);
+        QTRY_COMPARE(m_found.size(), 3);
     }
 
     void filesElsewhereAreNotIgnoredHere()
@@ -154,7 +158,6 @@ private Q_SLOTS:
         m_stage->watcher.start();
         const QString path = m_stage->folder.filePath(gone);
         QVERIFY(moved ? QDir().rename(path, path + u'x') : QDir(path).removeRecursively());
-        QTest::qWait(20);
         QVERIFY(QDir().mkpath(m_folder));
         QVERIFY(put(QStringLiteral("a.png")));
         QTRY_COMPARE(m_found, QStringList(QStringLiteral("a.png")));

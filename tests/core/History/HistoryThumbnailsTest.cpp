@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/History/HistoryThumbnails.h"
 
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
         HistoryThumbnails thumbnails(m_files);
         QSignalSpy ready(&thumbnails, &HistoryThumbnails::ready);
         QVERIFY(thumbnails.thumbnail(id, m_modified, { 160, 100 }).isNull()); // not on this thread
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         QCOMPARE(ready.takeFirst().at(0).toUuid(), id);
         const QImage image = thumbnails.thumbnail(id, m_modified, { 160, 100 });
         QCOMPARE(image.size(), size);
@@ -93,17 +94,17 @@ private Q_SLOTS:
         QSignalSpy ready(&thumbnails, &HistoryThumbnails::ready);
         thumbnails.thumbnail(id, m_modified, { 100, 100 });
         thumbnails.thumbnail(id, m_modified, { 100, 100 }); // while it is being read
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         QDir(m_files.packagePath(id)).removeRecursively();
         QCOMPARE(thumbnails.thumbnail(id, m_modified, { 100, 100 }).size(), QSize(100, 50)); // out of memory
 
         put(id, { { QStringLiteral("QuickLook/Thumbnail.png"), png({ 300, 300 }, Qt::blue) } });
         const QDateTime later = m_modified.addSecs(1);
         QCOMPARE(thumbnails.thumbnail(id, later, { 100, 100 }).size(), QSize(100, 50)); // what is known so far
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         QCOMPARE(thumbnails.thumbnail(id, later, { 100, 100 }).size(), QSize(100, 100));
         QCOMPARE(thumbnails.thumbnail(id, later, { 50, 50 }).size(), QSize(100, 100));
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         QCOMPARE(thumbnails.thumbnail(id, later, { 50, 50 }).size(), QSize(50, 50));
         QCOMPARE(ready.size(), 3);
     }
@@ -154,13 +155,13 @@ private Q_SLOTS:
             unreadable(&thumbnails, &HistoryThumbnails::unreadable);
         QVERIFY(thumbnails.thumbnail(id, m_modified, { 50, 50 }).isNull());
         QVERIFY(!thumbnails.isUnreadable(id, m_modified, { 50, 50 })); // not known yet
-        QVERIFY(unreadable.wait());
+        QVERIFY(unreadable.wait(test::patience));
         QCOMPARE(unreadable.first().at(0).toUuid(), id);
         QVERIFY(thumbnails.isUnreadable(id, m_modified, { 50, 50 }));
         put(id, { { QStringLiteral("image.png"), png({ 40, 40 }, Qt::red) } });
         QVERIFY(thumbnails.thumbnail(id, m_modified, { 50, 50 }).isNull());
         thumbnails.thumbnail(good, m_modified, { 50, 50 }); // would be read after it
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         QCOMPARE(ready.size(), 1);
         QVERIFY(thumbnails.thumbnail(id, m_modified, { 50, 50 }).isNull());
         thumbnails.thumbnail(id, m_modified.addSecs(1), { 50, 50 }); // written anew
@@ -186,7 +187,7 @@ private Q_SLOTS:
         QVERIFY(thumbnails.thumbnail(id, m_modified, { 50, 50 }).isNull());
         const QUuid marker = captureOf({ 10, 10 }); // read after the missing one has been looked for
         thumbnails.thumbnail(marker, m_modified, { 50, 50 });
-        QVERIFY(ready.wait());
+        QVERIFY(ready.wait(test::patience));
         put(id, { { QStringLiteral("image.png"), png({ 40, 40 }, Qt::blue) } });
         QTRY_VERIFY(!thumbnails.thumbnail(id, m_modified, { 50, 50 }).isNull());
     }

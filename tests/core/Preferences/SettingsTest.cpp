@@ -125,6 +125,21 @@ private Q_SLOTS:
         QCOMPARE(Settings(m_path + QStringLiteral("/settings.json")).value(SettingKeys::webpQuality), 0.25);
     }
 
+    void changesTogetherAreWrittenOnce()
+    {
+        Settings settings(m_path);
+        const auto outcome = settings.changeTogether([&] {
+            QVERIFY(settings.set(SettingKeys::webpQuality, 0.25));
+            QVERIFY(settings.set(SettingKeys::copyAtFullSize, true));
+            QCOMPARE(files(), QStringList());
+        });
+        QVERIFY(outcome);
+        QCOMPARE(stored().size(), 2);
+        QVERIFY(QFile::remove(m_path));
+        QVERIFY(settings.changeTogether([] {}));
+        QCOMPARE(files(), QStringList());
+    }
+
     void refusesWhatIsNoNumber() { QVERIFY(!Settings(m_path).set(SettingKeys::jpegQuality, qQNaN())); }
 
     void livesInMemoryWithoutAPath()

@@ -151,10 +151,15 @@ private Q_SLOTS:
     void aSmallSelectionCanStillBeMoved()
     {
         const SelectionModel selection = model(2, { 400, 300, 16, 16 });
-        QVERIFY(!selection.handleAt({ 408, 308 }));
-        QCOMPARE(selection.handleAt({ 397, 297 }), Handle::TopLeft);
-        QCOMPARE(selection.handleAt({ 400, 300 }), Handle::TopLeft);
-        QCOMPARE(selection.handleRect(Handle::TopLeft), QRect(388, 288, 24, 24));
+        QVERIFY(!selection.handleAt({ 400, 300 }));
+        QVERIFY(!selection.handleAt({ 415, 315 }));
+        QCOMPARE(selection.handleAt({ 399, 299 }), Handle::TopLeft);
+        QCOMPARE(selection.handleAt({ 416, 316 }), Handle::BottomRight);
+        QVERIFY(selection.handleRect(Handle::Top).isEmpty());
+        const SelectionModel narrow = model(1, { 400, 300, 10, 300 });
+        QCOMPARE(narrow.handleRect(Handle::Left), QRect(388, 444, 12, 12));
+        QCOMPARE(narrow.handleRect(Handle::TopRight), QRect(410, 294, 12, 12));
+        QVERIFY(narrow.handleRect(Handle::Bottom).isEmpty());
         QVERIFY(!model().handleAt({ 0, 0 }));
     }
 

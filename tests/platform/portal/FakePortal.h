@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tests/support/Patience.h"
 #include "tests/support/QuietBus.h"
 
 #include <QDBusArgument>
@@ -41,7 +42,7 @@ public:
     {
         leave();
         m_bus.terminate();
-        m_bus.waitForFinished();
+        m_bus.waitForFinished(patience);
     }
 
     /// Is found on the bus.

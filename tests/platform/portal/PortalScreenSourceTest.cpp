@@ -2,6 +2,7 @@
 #include "platform/portal/PortalScreenSource.h"
 
 #include "tests/platform/portal/FakePortal.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 
 #include <QDir>
@@ -56,7 +57,7 @@ class PortalScreenSourceTest : public QObject {
     {
         std::optional<Result<RasterImage>> picture;
         source.capture(shot, [&](Result<RasterImage> answer) { picture = std::move(answer); });
-        if (!QTest::qWaitFor([&] { return picture.has_value(); }, 20'000))
+        if (!QTest::qWaitFor([&] { return picture.has_value(); }, test::patience))
             qWarning("no answer");
         return picture;
     }

@@ -2,6 +2,7 @@
 #include "platform/wayland/SwayWindowSource.h"
 
 #include "platform/wayland/WaylandScreenSource.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/SwaySession.h"
 #include "tests/support/VirtualScreen.h"
 #include "tests/support/WaylandHands.h"
@@ -45,7 +46,7 @@ class SwayWindowSourceTest : public QObject {
             { QStringLiteral("--config=/dev/null"), QStringLiteral("--app-id=example.terminal"),
                 QStringLiteral("--title"), title, QStringLiteral("--override=locked-title=yes"),
                 QStringLiteral("sleep"), QStringLiteral("1000") });
-        QTRY_VERIFY_WITH_TIMEOUT(titles() != before, 20'000);
+        QTRY_VERIFY(titles() != before);
     }
 
     ScreenWindow windowCalled(const QString &title) const
@@ -100,7 +101,7 @@ private Q_SLOTS:
         m_background.reset();
         for (const auto &program : m_programs) {
             program->terminate();
-            program->waitForFinished();
+            program->waitForFinished(test::patience);
         }
         m_programs.clear();
         m_session.reset();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/X11ScreenSource.h"
+#include "tests/support/Patience.h"
 #include "tests/support/VirtualScreen.h"
 
 #include <QGuiApplication>
@@ -78,7 +79,7 @@ private Q_SLOTS:
         qputenv("DISPLAY", m_screen.displayName().toLocal8Bit());
         qt.start(QCoreApplication::applicationFilePath(),
             { QStringLiteral("--scales-of-qt"), QStringLiteral("-platform"), QStringLiteral("xcb") });
-        QVERIFY(qt.waitForFinished());
+        QVERIFY(qt.waitForFinished(test::patience));
         QCOMPARE(ours, qt.readAllStandardOutput());
     }
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/x11/ServerWindow.h"
+#include "tests/support/Patience.h"
 
 #include "tests/support/VirtualScreen.h"
 
@@ -135,13 +136,13 @@ WindowManager::WindowManager(const QString &display)
     };
     const auto begins = [&] { return probe.show(), managesProbe(); };
     const auto ends = [&] { return probe.hide(), !managesProbe(); };
-    m_ready = QTest::qWaitFor(begins, 15'000) && QTest::qWaitFor(ends, 15'000);
+    m_ready = QTest::qWaitFor(begins, patience) && QTest::qWaitFor(ends, patience);
 }
 
 WindowManager::~WindowManager()
 {
     m_process.terminate();
-    m_process.waitForFinished();
+    m_process.waitForFinished(patience);
 }
 
 } // namespace tessaly::test

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/X11Layers.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/VirtualScreen.h"
 
 #include <QGuiApplication>

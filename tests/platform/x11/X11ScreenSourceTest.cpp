@@ -3,6 +3,7 @@
 
 #include "platform/x11/X11Connection.h"
 #include "tests/platform/x11/ServerWindow.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/VirtualScreen.h"
 
 #include <QDir>

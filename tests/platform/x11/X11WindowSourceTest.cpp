@@ -3,6 +3,7 @@
 
 #include "platform/x11/X11ScreenSource.h"
 #include "tests/platform/x11/ServerWindow.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "tests/support/VirtualScreen.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Overlay/HiddenWindows.h"
 #include "tests/support/Rows.h"
+#include "ui/Style/CaptureProperties.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -21,8 +22,8 @@ private Q_SLOTS:
         row("window", Qt::Window, true);
         row("dialog", Qt::Dialog, true);
         row("pin", Qt::Tool | Qt::FramelessWindowHint, false);
-        row("thumbnail", Qt::Tool | Qt::FramelessWindowHint, true, "tessalyHiddenForCapture");
-        row("notice", Qt::ToolTip, true, "tessalyEndsWithCapture");
+        row("thumbnail", Qt::Tool | Qt::FramelessWindowHint, true, CaptureProperties::hides);
+        row("notice", Qt::ToolTip, true, CaptureProperties::ends);
         row("full screen", Qt::Window, false, "", Qt::WindowFullScreen);
         row("minimized", Qt::Window, false, "", Qt::WindowMinimized);
     }
@@ -45,9 +46,9 @@ private Q_SLOTS:
         QCOMPARE(windows.hide().contains(id), hidden);
         QCOMPARE(window.isVisible(), !hidden);
         windows.restore();
-        QCOMPARE(window.isVisible(), property != "tessalyEndsWithCapture");
+        QCOMPARE(window.isVisible(), property != CaptureProperties::ends);
         QCOMPARE(window.windowHandle() && window.windowHandle()->isVisible(),
-            wasVisible && property != "tessalyEndsWithCapture");
+            wasVisible && property != CaptureProperties::ends);
         QCOMPARE(window.windowState() & ~Qt::WindowActive, state);
         QVERIFY(!window.testAttribute(Qt::WA_ShowWithoutActivating));
         if (!state)

@@ -6,6 +6,7 @@
 #include "tests/support/FakeLayers.h"
 #include "tests/support/FakeScreen.h"
 #include "tests/support/OffscreenScreens.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "ui/Overlay/CaptureModeBar.h"
 #include "ui/Overlay/SelectionView.h"
@@ -340,13 +341,16 @@ private Q_SLOTS:
         QImage surface(picture.size(), QImage::Format_RGB32);
         surface.fill(Qt::magenta);
         const QRect clear(10, 20, 30, 40), changed(0, 0, 50, 50);
-        SelectionPainter::paintGround(surface, changed, picture, clear);
+        SelectionPainter::paintGround(surface, 0, changed, picture, clear);
         QCOMPARE(surface.copy(clear & changed), picture.copy(clear & changed));
         QVERIFY(
             qRed(surface.pixel(9, 20)) < 9 && qBlue(surface.pixel(8, 21)) < 150 && qBlue(surface.pixel(8, 21)) > 100);
         QCOMPARE(surface.pixelColor(50, 49), QColor(Qt::magenta));
+        QImage part(50, 16, QImage::Format_RGB32);
+        SelectionPainter::paintGround(part, 32, { 0, 32, 50, 16 }, picture, clear);
+        QCOMPARE(part, surface.copy(0, 32, 50, 16));
         QImage live(picture.size(), QImage::Format_ARGB32_Premultiplied);
-        SelectionPainter::paintGround(live, live.rect(), {}, clear);
+        SelectionPainter::paintGround(live, 0, live.rect(), {}, clear);
         QCOMPARE(live.pixel(10, 20), 0u);
         QVERIFY(qAlpha(live.pixel(9, 20)) > 100 && qAlpha(live.pixel(9, 20)) < 128);
     }

@@ -30,6 +30,8 @@ private Q_SLOTS:
             QList { QRect(784, 164, 200, 120), QRect(784, 34, 200, 120), QRect(574, 134, 200, 150) });
         test::row("which is inward at the left, too", Corner::BottomLeft, QRect(0, 0, 1000, 170), QList { one, one },
             QList { QRect(16, 34, 200, 120), QRect(226, 34, 200, 120) });
+        test::row("as many as fit", Corner::BottomRight, QRect(0, 0, 400, 300), QList { one, one, other },
+            QList { QRect(184, 164, 200, 120), QRect(184, 34, 200, 120) });
     }
 
     void thumbnailsStack()
@@ -98,6 +100,16 @@ private Q_SLOTS:
         const QRect begun = PinGeometry::initialPlace(size, near, QRect(0, 0, 1000, 800));
         QCOMPARE(begun.size(), place.size());
         QVERIFY((begun.topLeft() - place.topLeft()).manhattanLength() <= 2); // a middle may lie between points
+    }
+
+    void pinsDoNotHideEachOther()
+    {
+        const QRect area(100, 0, 460, 360);
+        QList<QPoint> taken;
+        for (int pin = 0; pin < 4; ++pin)
+            taken += PinGeometry::cascaded(QRect(130, 30, 400, 300), taken, area).topLeft();
+        QCOMPARE(taken, (QList<QPoint> { { 130, 30 }, { 154, 54 }, { 106, 6 }, { 130, 30 } }));
+        QCOMPARE(PinGeometry::cascaded(area, { area.topLeft() }, area), area);
     }
 
     void zoomHasLimits_data()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "tests/support/SamplePictures.h"
 #include "tests/ui/QuickAccess/FloatsFixture.h"

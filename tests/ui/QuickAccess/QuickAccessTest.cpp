@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "tests/ui/QuickAccess/FloatsFixture.h"
 #include "ui/QuickAccess/QuickAccessButton.h"
 #include "ui/QuickAccess/QuickAccessController.h"
 #include "ui/QuickAccess/QuickAccessPanel.h"
 #include "ui/QuickAccess/QuickAccessView.h"
+#include "ui/Style/CaptureProperties.h"
 
 #include <QPointer>
 #include <QScreen>
@@ -106,8 +108,8 @@ private Q_SLOTS:
         QTRY_COMPARE(thumbnails.layers.floats[panel->windowHandle()].rects.last(), rest);
         QTRY_COMPARE(panel->windowOpacity(), 1.0);
         QVERIFY(panel->windowFlags() & Qt::WindowDoesNotAcceptFocus);
-        QVERIFY(panel->property("tessalyHiddenForCapture").toBool());
-        QVERIFY(!panel->property("tessalyEndsWithCapture").toBool());
+        QVERIFY(panel->property(CaptureProperties::hides).toBool());
+        QVERIFY(!panel->property(CaptureProperties::ends).toBool());
         QCOMPARE(panel->accessibleName(), "Screenshot taken");
     }
 

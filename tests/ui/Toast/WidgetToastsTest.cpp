@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Toast/WidgetToasts.h"
 #include "tests/support/FakeLayers.h"
+#include "tests/support/PatientTest.h"
 #include "ui/Toast/LinkToastView.h"
 #include "ui/Toast/ToastView.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/wayland/Surfaces/DataControlClipboard.h"
 
+#include "tests/support/PatientTest.h"
 #include "tests/support/SwaySession.h"
 #include "tests/support/VirtualScreen.h"
 
@@ -58,7 +59,7 @@ class DataControlClipboardTest : public QObject {
     static QByteArray pasted(const QStringList &arguments)
     {
         const auto program = started(QStringList { QStringLiteral("wl-paste"), QStringLiteral("-n") } + arguments);
-        if (!QTest::qWaitFor([&] { return program->state() == QProcess::NotRunning; }, 20'000))
+        if (!QTest::qWaitFor([&] { return program->state() == QProcess::NotRunning; }, test::patience))
             return "did not end";
         return program->readAllStandardOutput();
     }
@@ -112,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(hasty->readAllStandardOutput(), m_large.left(9));
         QCOMPARE(pasted({ QStringLiteral("-t"), m_text }), "words");
         slow->kill();
-        slow->waitForFinished();
+        slow->waitForFinished(test::patience);
     }
 
     void pastesFromAnotherProgram()

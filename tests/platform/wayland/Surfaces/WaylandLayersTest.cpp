@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/wayland/Surfaces/WaylandLayers.h"
 
+#include "tests/support/PatientTest.h"
 #include "tests/support/SwaySession.h"
 #include "tests/support/VirtualScreen.h"
 #include "tests/support/WaylandHands.h"
@@ -149,14 +150,14 @@ private Q_SLOTS:
         m_layers.showCover(cover);
         QTRY_COMPARE(seen(0, QPoint(320, 200)), blue);
         QProcess keyboard;
-        keyboard.start(QStringLiteral("wtype"), { QStringLiteral("-s"), QStringLiteral("300"), QStringLiteral("abc") });
+        keyboard.start(QStringLiteral("wtype"), { QStringLiteral("abc") });
         QTRY_COMPARE(cover.typed, QStringLiteral("abc"));
         QTRY_COMPARE(keyboard.state(), QProcess::NotRunning);
         m_layers.hideCover(cover);
         QVERIFY(seen(0, QPoint(320, 200)) != blue);
         QTRY_VERIFY(terminalIsFullScreen());
         terminal.terminate();
-        terminal.waitForFinished();
+        terminal.waitForFinished(test::patience);
     }
 
     void coversLetTheScreenThrough()
