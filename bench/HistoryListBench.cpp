@@ -90,7 +90,7 @@ public:
     {
         m_clock.time = bench::GeneratedHistory::newest();
         // Captures of any age stay.
-        static_cast<void>(m_settings.set(SettingKeys::historyRetentionDays, 0.0));
+        static_cast<void>(m_settings.set(SettingKeys::historyRetentionDays, 0));
         m_history.load();
         while (!m_history.isLoaded())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -141,7 +141,7 @@ int main(int argc, char **argv)
         return 1;
     }
     Desk desk { std::move(*source), std::move(*windows) };
-    desk.overlay.prepare();
+    desk.overlay.prepare(OverlayUse::Later);
     settle();
     std::unique_ptr<FreshWidget> fresh;
     const auto add = [](const char *name, auto function) {

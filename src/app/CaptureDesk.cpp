@@ -25,7 +25,7 @@ CaptureDesk::CaptureDesk(const Surroundings &with) :
     m_watcher({ with.settings, with.openPanels, with.clock }),
     m_router({ with.settings, with.exports, with.history, m_watcher, with.alerts, with.clock }),
     m_pins({ with.settings, with.exports, with.layers, with.toasts }),
-    m_thumbnails({ with.settings, with.exports, m_router, &with.textCopier, m_pins, with.layers, with.toasts }),
+    m_thumbnails({ with.settings, with.exports, m_router, with.quickAccessCopier, m_pins, with.layers, with.toasts }),
     m_captures({ with.settings, *m_screen, *m_windows, m_picker, m_overlay, m_countdown, m_ownWindows, m_router,
         with.history, with.exports, with.textCopier, m_watcher, m_sounds, with.toasts, with.alerts })
 {

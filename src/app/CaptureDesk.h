@@ -28,6 +28,7 @@ public:
         ExportService &exports;
         CaptureHistory &history;
         TextCopier &textCopier;
+        TextCopier *quickAccessCopier; ///< of the thumbnails; null is none
         Toasts &toasts;
         Alerts &alerts;
         OpenPanels &openPanels;

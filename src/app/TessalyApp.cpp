@@ -1,332 +1,211 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TessalyApp.h"
 
-#include "app/AutomationClient.h"
-#include "app/AutomationService.h"
-#include "app/CaptureCommands.h"
-#include "app/CaptureDesk.h"
-#include "app/DesktopArguments.h"
+#include "app/ActivationToken.h"
+#include "app/AppDelegate.h"
+#include "app/Bus/AutomationClient.h"
+#include "app/Bus/AutomationService.h"
+#include "app/Bus/DesktopArguments.h"
+#include "app/Bus/HandOver.h"
+#include "app/DesktopServices.h"
 #include "app/EarlyReading.h"
 #include "app/EndSignals.h"
 #include "app/Errand.h"
-#include "app/SessionClipboard.h"
-#include "core/Base/Clock.h"
+#include "app/LaunchSequence.h"
+#include "app/Presence.h"
+#include "app/ProgramEnd.h"
 #include "core/Capture/RequestReading.h"
-#include "core/Capture/ToastsBetweenCaptures.h"
-#include "core/Document/DocumentActions.h"
-#include "core/Document/RecentDocuments.h"
-#include "core/Editing/MarkCommands.h"
-#include "core/Frame/FrameSettings.h"
-#include "core/History/CaptureHistory.h"
-#include "core/Preferences/Settings.h"
-#include "core/Text/TextCopier.h"
-#include "platform/Choice/Desktop/DesktopChoice.h"
-#include "platform/desktop/DesktopLinks.h"
-#include "platform/desktop/PortalSharing.h"
-#include "platform/recognition/WorkerRecognizer.h"
-#include "ui/Editor/EditorWindowController.h"
-#include "ui/Export/ProgressWork.h"
-#include "ui/Export/WidgetAlerts.h"
-#include "ui/Export/WidgetOpenPanels.h"
-#include "ui/Export/WidgetSavePanels.h"
-#include "ui/Start/StartWindowController.h"
-#include "ui/Style/Appearance.h"
-#include "ui/Style/Icons.h"
-#include "ui/Style/PlatformTexts.h"
-#include "ui/Toast/WidgetToasts.h"
 
 #include <QApplication>
 #include <QTimer>
-#include <QWindow>
 
 namespace tessaly {
 
-namespace {
+static LaunchSequence::Kind kindOf(const DesktopArguments &arguments)
+{
+    using Kind = LaunchSequence::Kind;
+    if (arguments.capture)
+        return Kind::Errand;
+    if (!arguments.files.isEmpty() || !arguments.historyEntries.isEmpty() || arguments.action)
+        return Kind::Files;
+    return arguments.resident ? Kind::Resident : Kind::Plain;
+}
 
-using namespace std::chrono_literals;
-
-/// After the start: not before the first window has been painted.
-constexpr std::chrono::milliseconds historyDelay = 300ms;
-
-/// Nor are requests of other programs heard before that.
-constexpr std::chrono::milliseconds quietDelay = 500ms;
-
-/// Nothing is recognised for the history while the program is first used.
-constexpr std::chrono::milliseconds recognitionDelay = 3s;
-
-/// How long a notice stays that is a whole sentence.
-constexpr std::chrono::milliseconds sentenceDuration = 4s;
-
-} // namespace
-
-/// In the order in which they need each other.
-class TessalyApp::Services {
+class TessalyApp::Program {
 public:
-    Services()
+    explicit Program(const DesktopArguments &given) :
+        arguments(given),
+        end(services, given.capture || given.action ? ProgramEnd::Purpose::Errand : ProgramEnd::Purpose::Windows)
     {
-        QCoreApplication::installTranslator(&texts);
-        QGuiApplication::setWindowIcon(Icons::application());
-        if (!DesktopChoice::windowsPlaceThemselves())
-            windowToasts.setLayers(&windowLayers());
+        connectRequests();
     }
 
-    PlatformTexts texts;
-    SystemClock clock;
-    Settings settings { Settings::defaultPath() };
-    Appearance appearance { settings };
-    SavedStyles styles { settings };
-    CopiedStyle copiedStyle;
-    FrameSettings frameSettings { settings, FrameSettings::defaultDataFolder() };
-    RecentDocuments recentDocuments { settings };
-    SessionClipboard clipboard;
-    PortalSharing sharing;
-    WidgetAlerts alerts;
-    WidgetSavePanels panels { settings };
-    WidgetOpenPanels openPanels;
-    ProgressWork work;
-    ExportService exports { { settings, clipboard, alerts, panels, sharing, work, clock } };
-    DocumentActions documents { { settings, alerts, panels, work, exports, recentDocuments } };
-    CaptureHistory history { { { HistoryStore::defaultDirectory() }, settings, clock } };
-    DesktopLinks links;
-    std::unique_ptr<WindowLayers> layers; ///< when a window first lies above others
-    WidgetToasts windowToasts;
-    ToastsBetweenCaptures toasts { windowToasts };
-    WorkerRecognizer recognizer { { WorkerRecognizer::systemLanguages() } };
-    TextCopier textCopier { recognizer, clipboard, toasts, links };
-    CaptureCommands captureCommands { { [this] { return desk.get(); },
-        [this]() -> CaptureDesk & { return captureDesk(); } } };
-    EditorServices editorServices { settings, styles, copiedStyle, frameSettings, clipboard, alerts, work, exports,
-        documents, recentDocuments, appearance, clock, history, recognizer, textCopier, toasts, links, openPanels,
-        &captureCommands, [this](const RasterImage &image) { captureDesk().pins().pin(image); } };
-    EditorWindowController editors { editorServices };
-    StartWindowController start { { history, settings, clipboard, exports, links, clock },
-        { .openFile = [this] { editors.chooseFiles(); },
-            .paste = [this] { editors.openFromClipboard(); },
-            .openEntry = [this](const QUuid &id) { editors.openHistoryEntry(id); },
-            .program = &editors } };
-    std::unique_ptr<CaptureDesk> desk; ///< when something is first captured, or it has become quiet after the start
-    AutomationService automation { [this]() -> CaptureService & { return captureDesk().captures(); } };
-    std::unique_ptr<RecognitionTask> reading; ///< for the history
+    DesktopArguments arguments;
+    DesktopServices services;
+    ProgramEnd end;
+    AppDelegate delegate { services, end };
+    Presence presence { services };
+    LaunchSequence launch { services, presence, kindOf(arguments) };
+    AutomationService automation { { .captures
+        = [this]() -> CaptureService & { return services.captureDesk().captures(); },
+        .perform = [this](Intent intent, const QString &where) { return services.intents.perform(intent, where); },
+        .activate = [this] { activate(); },
+        .open = [this](const QList<QUrl> &urls) { delegate.open(urls); },
+        .openHistoryEntries = [this](const QList<QUuid> &entries) { delegate.openHistoryEntries(entries); },
+        .tell = [this](const QString &sentence) { services.showNotice(sentence); },
+        .takeActivation = &ActivationToken::take } };
 
-    bool stays = false; ///< resident: until it is asked to end
-    bool isErrand = false; ///< started for one capture
-    int status = 0;
-
-    WindowLayers &windowLayers();
-    CaptureDesk &captureDesk();
-    void connectWindows();
-    void connectNotices();
-    void recognizeForHistory();
-    void loadHistory();
-    bool leavesToOther();
-    void settleDown();
+    void connectRequests();
+    void stay();
+    void activate();
+    std::optional<int> leftToOther();
+    bool begin(EarlyReading &first);
+    bool open(EarlyReading &first);
     void capture(const DesktopArguments::Capture &wanted);
-    bool open(const DesktopArguments &arguments, EarlyReading &first);
-    bool isNeeded() const;
-    void endIfUnneeded();
-    void endWhenAsked();
-    void finish();
+    void act(const DesktopArguments::Action &wanted);
 };
 
-WindowLayers &TessalyApp::Services::windowLayers()
+void TessalyApp::Program::connectRequests()
 {
-    if (!layers)
-        layers = DesktopChoice::windowLayers();
-    return *layers;
-}
-
-CaptureDesk &TessalyApp::Services::captureDesk()
-{
-    if (desk)
-        return *desk;
-    desk = std::make_unique<CaptureDesk>(CaptureDesk::Surroundings { settings, clipboard, exports, history, textCopier,
-        toasts, alerts, openPanels, clock, windowLayers(),
-        [this](RasterImage image, const QString &title) { editors.openCapture(std::move(image), title); } });
-    const auto look = [this] { endIfUnneeded(); };
-    toasts.setCaptures(desk->captures());
-    QObject::connect(&desk->captures(), &CaptureService::becameIdle, qApp, look, Qt::QueuedConnection);
-    QObject::connect(&desk->thumbnails(), &QuickAccessController::emptied, qApp, look, Qt::QueuedConnection);
-    QObject::connect(&desk->pins(), &PinnedScreenshotController::countsChanged, qApp, look, Qt::QueuedConnection);
-    return *desk;
-}
-
-/// Alerts and panels come and go before the first window and after the last; the program itself says when it ends.
-void TessalyApp::Services::connectWindows()
-{
-    QApplication::setQuitOnLastWindowClosed(false);
-    const auto look = [this] { endIfUnneeded(); };
-    QObject::connect(&editors, &EditorWindowController::allClosed, qApp, look, Qt::QueuedConnection);
-    QObject::connect(&start, &StartWindowController::closed, qApp, look, Qt::QueuedConnection);
-    QObject::connect(&clipboard, &SessionClipboard::lost, qApp, look);
-    QObject::connect(&textCopier, &TextCopier::finished, qApp, look, Qt::QueuedConnection);
-    QObject::connect(&editors, &EditorWindowController::startWindowRequested, qApp, [this] { start.show(); });
-    QObject::connect(&editors, &EditorWindowController::quitRequested, qApp, [this] { endWhenAsked(); });
-    QObject::connect(&automation, &AutomationService::quitRequested, qApp, [this] { endWhenAsked(); });
-    QObject::connect(&automation, &AutomationService::stayRequested, qApp, [this] { stays = true; });
-    QObject::connect(&automation, &AutomationService::ignoreRequested, qApp, [this](const QString &path) {
-        if (desk)
+    QObject::connect(&automation, &AutomationService::quitRequested, &end, &ProgramEnd::endWhenAsked);
+    QObject::connect(&automation, &AutomationService::stayRequested, &end, [this] { stay(); });
+    QObject::connect(&automation, &AutomationService::ignoreRequested, &end, [this](const QString &path) {
+        if (CaptureDesk *desk = services.presentDesk())
             desk->watcher().ignorePath(path);
     });
-    QObject::connect(&automation, &AutomationService::unlockRequested, qApp, [this] {
-        if (desk)
+    QObject::connect(&automation, &AutomationService::unlockRequested, &end, [this] {
+        if (CaptureDesk *desk = services.presentDesk())
             desk->pins().unlockAll();
     });
-}
-
-bool TessalyApp::Services::isNeeded() const
-{
-    if (stays || editors.hasEditors() || start.isVisible())
-        return true;
-    if (desk && (desk->captures().isBusy() || !desk->thumbnails().isEmpty() || desk->pins().count() > 0))
-        return true;
-    // Nobody would know that closing a window takes the clipboard's content away; of an errand it is all that there is.
-    return isErrand && (textCopier.isReading() || (clipboard.holdsOurs() && !clipboard.canHandOver()));
-}
-
-void TessalyApp::Services::endIfUnneeded()
-{
-    if (isNeeded())
-        return;
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    const auto shown = std::ranges::find_if(windows, &QWindow::isVisible);
-    if (!isErrand || shown == windows.end())
-        return QApplication::exit(status);
-    // A notice is being read. Which of several windows is asked does not matter: the next is looked for then.
-    QObject::connect(
-        *shown, &QWindow::visibleChanged, qApp, [this] { endIfUnneeded(); },
-        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-}
-
-void TessalyApp::Services::endWhenAsked()
-{
-    if (!editors.closeAll()) {
-        automation.claim(); // it had been given up for the end
-        return;
-    }
-    start.close();
-    QApplication::exit(status);
-}
-
-void TessalyApp::Services::finish()
-{
-    automation.release();
-    history.flush();
-    clipboard.handOver();
-}
-
-void TessalyApp::Services::connectNotices()
-{
-    const auto show = [this](const QString &sentence) { toasts.show(sentence, sentenceDuration); };
-    QObject::connect(&history, &CaptureHistory::notice, qApp, show);
-    recognizer.notice = show;
-}
-
-void TessalyApp::Services::recognizeForHistory()
-{
-    if (!recognizer.isSupported())
-        return;
-    if (history.isEnabled())
-        recognizer.prewarm();
-    history.setTextRecognizer([this](const RasterImage &image, auto answer) {
-        reading = recognizer.recognize({ .image = image, .urgency = TextRecognizer::Urgency::Background },
-            [answer = std::move(answer)](const Result<RecognizedContent> &content) {
-                if (content)
-                    return answer(content->text());
-                qWarning("Tessaly: the text of a capture couldn't be read: %s", qPrintable(content.failure().message));
-                answer(std::nullopt);
-            });
+    // The name had been given up for the end.
+    QObject::connect(&end, &ProgramEnd::keptRunning, &automation, [this] { automation.claim(); });
+    QObject::connect(&services, &DesktopServices::trayActivated, &end, [this] { delegate.reopen(); });
+    QObject::connect(&services, &DesktopServices::trayChanged, &end, &ProgramEnd::endIfUnneeded);
+    QObject::connect(&services.settings, &Settings::changed, &end, [this](const QString &key) {
+        if (key == QLatin1StringView(SettingKeys::appearance.name))
+            services.appearance.refresh();
+        else if (key == QLatin1StringView(SettingKeys::watchSystemScreenshots.name))
+            services.followWatchSetting();
+        else if (key == QLatin1StringView(SettingKeys::systemScreenshotsFolder.name))
+            services.watchAnotherFolder();
+        else if (key == QLatin1StringView(SettingKeys::historyRetentionDays.name))
+            services.history.pruneExpired(services.clock.now());
     });
 }
 
-void TessalyApp::Services::loadHistory()
+/// It is from now on what a start with the session is, whatever it was started for.
+void TessalyApp::Program::stay()
 {
-    history.load();
-    history.pruneExpired(clock.now());
-    QTimer::singleShot(recognitionDelay, qApp, [this] { recognizeForHistory(); });
+    end.stay();
+    presence.showInTray();
+    if (arguments.capture)
+        services.hotkeys().reload();
 }
 
-/// A Tessaly runs already. It stays instead of this one, which nobody could reach; and whoever opens the start window
-/// beside it can again reach its pinned screenshots, which may be all that it shows.
-bool TessalyApp::Services::leavesToOther()
+void TessalyApp::Program::activate()
 {
-    if (stays)
-        return AutomationClient::stay();
-    if (start.isVisible())
-        AutomationClient::unlockPinnedScreenshots();
-    return false;
+    stay();
+    delegate.reopen();
 }
 
-/// What the start need not wait for.
-void TessalyApp::Services::settleDown()
+/// The exit status, where another one runs that was not there when this one looked before.
+std::optional<int> TessalyApp::Program::leftToOther()
 {
-    // Whoever finds the program there may save a screenshot at once.
-    if (settings.value(SettingKeys::watchSystemScreenshots))
-        captureDesk().watcher().start();
-    if (!automation.claim() && leavesToOther())
-        return QApplication::exit(status);
-    if (stays)
-        captureDesk().captures().prepare();
+    if (automation.claim() || arguments.besideOther || !HandOver::isOtherRunning())
+        return std::nullopt;
+    if (arguments.capture) {
+        const auto outcome = AutomationClient::capture(arguments.capture->subject, arguments.capture->options);
+        if (outcome)
+            return Errand::tell(*outcome, arguments.capture->options.contains(QStringLiteral("output")));
+    } else if (HandOver::toOther(arguments) == HandOver::Answer::Taken) {
+        return 0;
+    }
+    automation.claim(); // the other one may just have ended; one that is stuck keeps the name
+    return std::nullopt;
 }
 
-void TessalyApp::Services::capture(const DesktopArguments::Capture &wanted)
+void TessalyApp::Program::capture(const DesktopArguments::Capture &wanted)
 {
-    CaptureService &captures = captureDesk().captures();
+    CaptureService &captures = services.captureDesk().captures();
     auto request = RequestReading::read(wanted.subject, wanted.options, captures.displays());
     if (!request) {
-        status = Errand::tell(request.failure());
-        return endIfUnneeded();
+        end.setStatus(Errand::tell(request.failure()));
+        return end.endIfUnneeded();
     }
     const bool namesFile = request->outputPath.has_value();
     request->finished = [this, namesFile](const CaptureOutcome &outcome) {
-        status = Errand::tell(outcome, namesFile);
-        QTimer::singleShot(0, qApp, [this] { endIfUnneeded(); });
+        end.setStatus(Errand::tell(outcome, namesFile));
+        QTimer::singleShot(0, &end, &ProgramEnd::endIfUnneeded);
     };
     captures.start(std::move(*request));
 }
 
-/// False when nothing could be opened.
-bool TessalyApp::Services::open(const DesktopArguments &arguments, EarlyReading &first)
+/// Started for one operation that other programs ask for, as the desktop entry's actions are.
+void TessalyApp::Program::act(const DesktopArguments::Action &wanted)
 {
-    if (!arguments.files.isEmpty())
-        editors.prepareWindow(); // while the first file is being read
-    for (const QString &path : arguments.files) {
-        if (auto loaded = first.take(path))
-            editors.openLoaded(path, std::move(*loaded));
-        else
-            editors.openFile(path);
+    const auto intent = intentNamed(wanted.name);
+    const Outcome outcome = intent ? services.intents.perform(*intent, wanted.destination)
+                                   : Failure { AutomationService::tr("There is no action \"%1\".").arg(wanted.name) };
+    if (!outcome) {
+        services.showNotice(outcome.failure().message);
+        end.setStatus(Errand::tell(outcome.failure()));
     }
-    if (!arguments.historyEntries.isEmpty())
-        history.flush(); // it then knows their titles
-    for (const QUuid &entry : arguments.historyEntries)
-        editors.openHistoryEntry(entry);
-    return editors.hasEditors();
+    QTimer::singleShot(0, &end, &ProgramEnd::endIfUnneeded);
 }
 
-TessalyApp::TessalyApp() : m_services(std::make_unique<Services>()) { }
+/// False when nothing could be opened.
+bool TessalyApp::Program::open(EarlyReading &first)
+{
+    if (!arguments.files.isEmpty())
+        services.editors.prepareWindow(); // while the first file is being read
+    for (const QString &path : arguments.files) {
+        if (auto loaded = first.take(path))
+            services.editors.openLoaded(path, std::move(*loaded));
+        else
+            services.editors.openFile(path);
+    }
+    if (!arguments.historyEntries.isEmpty()) {
+        services.history.load();
+        services.history.flush(); // it then knows their titles
+    }
+    for (const QUuid &entry : arguments.historyEntries)
+        services.editors.openHistoryEntry(entry);
+    return services.editors.hasEditors();
+}
+
+/// False when there is nothing to run for.
+bool TessalyApp::Program::begin(EarlyReading &first)
+{
+    if (arguments.isPlain() || arguments.resident)
+        end.stay();
+    if (arguments.capture) {
+        end.setStatus(1); // until it is done
+        QTimer::singleShot(0, &end, [this] { capture(*arguments.capture); });
+    } else if (arguments.action) {
+        QTimer::singleShot(0, &end, [this] { act(*arguments.action); });
+    } else if (!arguments.isPlain() && !arguments.resident && !open(first)) {
+        return false;
+    }
+    return true;
+}
+
+TessalyApp::TessalyApp(const DesktopArguments &arguments) : m_program(std::make_unique<Program>(arguments)) { }
 TessalyApp::~TessalyApp() = default;
 
-int TessalyApp::run(const DesktopArguments &arguments, EarlyReading &first)
+int TessalyApp::run(EarlyReading &first)
 {
-    Services &services = *m_services;
-    services.connectWindows();
-    services.connectNotices();
-    services.stays = arguments.resident;
-    services.isErrand = arguments.capture.has_value();
-    services.status = services.isErrand ? 1 : 0; // until it is done
-    if (arguments.opensNothing() || !arguments.historyEntries.isEmpty())
-        services.loadHistory(); // it is shown
-    else
-        QTimer::singleShot(historyDelay, qApp, [&services] { services.loadHistory(); });
-    if (arguments.opensNothing())
-        services.start.show();
-    else if (arguments.capture)
-        QTimer::singleShot(0, qApp, [&services, &arguments] { services.capture(*arguments.capture); });
-    else if (!arguments.resident && !services.open(arguments, first))
+    Program &program = *m_program;
+    if (program.arguments.resident) // whoever finds the name on the bus may save a screenshot at once
+        program.services.followWatchSetting();
+    if (const auto status = program.leftToOther())
+        return *status;
+    program.launch.run();
+    if (!program.begin(first))
         return 1;
-    QTimer::singleShot(arguments.resident ? 0ms : quietDelay, qApp, [&services] { services.settleDown(); });
-    const EndSignals endSignals([&services] { QApplication::exit(services.status); });
+    const EndSignals endSignals([&program] { program.end.endAtOnce(); });
     const int status = QApplication::exec();
-    services.finish();
+    program.automation.release();
+    program.delegate.willTerminate();
     return status;
 }
 

@@ -12,17 +12,18 @@ class EarlyReading;
 class TessalyApp {
 public:
     /// There must be a QApplication.
-    TessalyApp();
+    explicit TessalyApp(const DesktopArguments &arguments);
     ~TessalyApp();
 
     /// Does what the arguments ask for, and runs until nothing of it is left: windows, thumbnails, pinned screenshots,
-    /// or what others may paste. The first file is as `first` has read it. Without anything to open it shows the start
-    /// window. The process's exit status: 1 when nothing could be opened or captured.
-    int run(const DesktopArguments &arguments, EarlyReading &first);
+    /// its icon in the tray, or what others may paste; without anything to open, until it is asked to end. The first
+    /// file is as `first` has read it. Where another Tessaly runs that takes the arguments it ends at once. The
+    /// process's exit status: 1 when nothing could be opened or captured.
+    int run(EarlyReading &first);
 
 private:
-    class Services;
-    std::unique_ptr<Services> m_services;
+    class Program;
+    std::unique_ptr<Program> m_program;
 };
 
 } // namespace tessaly

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/AutomationClient.h"
+#include "app/Bus/AutomationClient.h"
 #include "app/CommandLine/CommandLine.h"
 #include "app/StandardStreams.h"
 #include "platform/Choice/PlatformChoice.h"

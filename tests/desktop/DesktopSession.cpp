@@ -6,6 +6,8 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QThread>
 
 namespace tessaly::test {
@@ -67,6 +69,7 @@ void DesktopSession::prepareEnvironment(const char *platform)
     };
     for (const auto &[name, value] : variables)
         qputenv(name, value.toLocal8Bit());
+    writeSettings("{}");
 }
 
 DesktopSession::~DesktopSession()
@@ -99,19 +102,29 @@ bool DesktopSession::startWindowManager()
 
 void DesktopSession::writeSettings(const QByteArray &json) const
 {
+    QJsonObject settings = QJsonDocument::fromJson(json).object();
+    const QString guide = QStringLiteral("showOnboardingOnLaunch");
+    if (!settings.contains(guide))
+        settings.insert(guide, false);
+    const QByteArray content = QJsonDocument(settings).toJson();
     QDir(m_home.path()).mkpath(QStringLiteral("config/tessaly"));
     QFile file(path(QStringLiteral("config/tessaly/settings.json")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("no settings could be written");
 }
 
-bool DesktopSession::start(const QStringList &arguments)
+QString DesktopSession::program() { return QStringLiteral(TESSALY_BINARIES "/tessaly"); }
+
+bool DesktopSession::launch(const QString &name, const QStringList &arguments)
 {
+    const QStringList command = m_starter + QStringList(name) + arguments;
     m_program.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
+    m_program.start(command.first(), command.mid(1));
     m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
     return m_program.waitForStarted(patience);
 }
+
+bool DesktopSession::start(const QStringList &arguments) { return launch(program(), arguments); }
 
 void DesktopSession::splitMonitors() const
 {
@@ -138,16 +151,36 @@ void DesktopSession::showBackground(const QImage &picture) const
 bool DesktopSession::startResident(const QByteArray &settings)
 {
     writeSettings(settings);
-    m_program.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_program.start(QStringLiteral(TESSALY_BINARIES "/tessaly-desktop"), { QStringLiteral("--resident") });
-    m_tree = std::make_unique<AccessibleTree>(QStringLiteral("tessaly"));
-    return m_program.waitForStarted(patience) && waitFor([this] {
+    return startResident();
+}
+
+bool DesktopSession::startResident()
+{
+    const auto hasName = [this] {
         return output(QStringLiteral("dbus-send"),
             { QStringLiteral("--session"), QStringLiteral("--print-reply"),
                 QStringLiteral("--dest=org.freedesktop.DBus"), QStringLiteral("/"),
                 QStringLiteral("org.freedesktop.DBus.GetNameOwner"), QStringLiteral("string:org.tessaly.Tessaly") })
             .contains("string");
-    });
+    };
+    if (!launch(program() + QStringLiteral("-desktop"), { QStringLiteral("--resident") }) || !waitFor(hasName))
+        return false;
+    // Its start may have put off something behind the first of these, but not behind the second.
+    const QStringList stay { QStringLiteral("org.tessaly.Automation1.Stay") };
+    return ask(stay) == "()\n" && ask(stay) == "()\n";
+}
+
+QByteArray DesktopSession::ask(const QStringList &methodAndArguments) const
+{
+    QProcess gdbus;
+    gdbus.setProcessChannelMode(QProcess::MergedChannels);
+    gdbus.start(QStringLiteral("gdbus"),
+        QStringList { QStringLiteral("call"), QStringLiteral("--session"), QStringLiteral("-d"),
+            QStringLiteral("org.tessaly.Tessaly"), QStringLiteral("-o"), QStringLiteral("/org/tessaly/Tessaly"),
+            QStringLiteral("-m") }
+            + methodAndArguments);
+    gdbus.waitForFinished(patience);
+    return gdbus.readAll();
 }
 
 int DesktopSession::stop()
@@ -160,7 +193,8 @@ std::unique_ptr<QProcess> DesktopSession::command(const QStringList &arguments) 
 {
     auto process = std::make_unique<QProcess>();
     endWithThisProcess(*process);
-    process->start(QStringLiteral(TESSALY_BINARIES "/tessaly"), arguments);
+    const QStringList command = m_starter + QStringList(program()) + arguments;
+    process->start(command.first(), command.mid(1));
     return process;
 }
 
@@ -267,6 +301,20 @@ QImage DesktopSession::clipboardPicture() const
                                 { QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-t"),
                                     QStringLiteral("image/png"), QStringLiteral("-o") }),
         "PNG");
+}
+
+QByteArray DesktopSession::clipboardText() const
+{
+    return output(QStringLiteral("xclip"),
+        { QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-t"),
+            QStringLiteral("UTF8_STRING"), QStringLiteral("-o") });
+}
+
+void DesktopSession::clearClipboard() const
+{
+    // Through a shell's /dev/null: the one that holds the nothing would keep a pipe open.
+    output(QStringLiteral("sh"),
+        { QStringLiteral("-c"), QStringLiteral("xclip -selection clipboard -i /dev/null >/dev/null 2>&1") });
 }
 
 } // namespace tessaly::test

@@ -32,7 +32,7 @@ public:
     /// A path in the home folder.
     QString path(const QString &name) const { return m_home.filePath(name); }
 
-    /// Stores settings before a program starts.
+    /// Stores settings before a program starts. Unless they say otherwise nobody is welcomed.
     void writeSettings(const QByteArray &json) const;
 
     /// Makes two monitors of the screen's halves: LEFT with one pixel a point, RIGHT with two. Before a program starts.
@@ -44,6 +44,11 @@ public:
     bool start(const QStringList &arguments);
     /// Starts Tessaly without a window, with these settings, and waits until it takes requests.
     bool startResident(const QByteArray &settings);
+    /// The same with the settings that there are. It has then done all that belongs to its start: it hears its hot
+    /// keys.
+    bool startResident();
+    /// What is started from now on is started through this command, of which a program and its arguments are the end.
+    void startThrough(const QStringList &command) { m_starter = command; }
     /// Ends Tessaly as the end of a session does; its exit status.
     int stop();
     qint64 processId() const { return m_program.processId(); }
@@ -60,6 +65,14 @@ public:
     /// Waits for its end; its exit status, -1 when it goes on.
     static int finish(QProcess &command);
 
+    /// What the running Tessaly answers on the session bus, errors included: a method with its interface, then its
+    /// arguments.
+    QByteArray ask(const QStringList &methodAndArguments) const;
+
+    /// The command line tool.
+    static QString program();
+    /// Runs it to its end; its output, empty when it failed.
+    QByteArray tessaly(const QStringList &arguments) const { return output(program(), arguments); }
     /// Runs a program to its end; its output, empty when it failed.
     QByteArray output(const QString &program, const QStringList &arguments) const;
 
@@ -82,16 +95,21 @@ public:
 
     /// The picture on the clipboard; null when there is none.
     QImage clipboardPicture() const;
+    QByteArray clipboardText() const;
+    /// Puts nothing there.
+    void clearClipboard() const;
 
 private:
     void prepareEnvironment(const char *platform);
     bool startBus();
     bool startWindowManager();
     void xdotool(const QStringList &arguments) const;
+    bool launch(const QString &name, const QStringList &arguments);
 
     QTemporaryDir m_home;
     std::optional<VirtualScreen> m_screen;
     QProcess m_bus, m_windowManager, m_program;
+    QStringList m_starter;
     std::unique_ptr<AccessibleTree> m_tree;
     bool m_ready = false;
 };

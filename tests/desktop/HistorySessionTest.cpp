@@ -129,14 +129,6 @@ private Q_SLOTS:
         QVERIFY2(marked.width() >= 160 && marked.height() >= 120, qPrintable(QDebug::toString(marked)));
         QVERIFY2(QRect(320, 300, 700, 450).contains(marked), qPrintable(QDebug::toString(marked)));
     }
-
-    void endsWithTheStartWindow()
-    {
-        QVERIFY(m_session.start({}));
-        QVERIFY(m_session.tree().find(tile()) && m_session.tree().waitUntilActive(QString()));
-        m_session.key(QStringLiteral("alt+F4"));
-        QCOMPARE(m_session.waitForEnd(), 0);
-    }
 };
 
 QTEST_GUILESS_MAIN(HistorySessionTest)

@@ -16,13 +16,13 @@ class FakeOverlay final : public SelectionOverlay {
 public:
     Note note = [](const QString &) {};
     bool live = true;
-    int prepared = 0;
+    QList<OverlayUse> prepared;
     int session = 0;
     Opening opening; ///< the last one
     DisplaySnapshots snapshots; ///< for its magnifier
 
     bool showsLiveScreen() const override { return live; }
-    void prepare() override { ++prepared; }
+    void prepare(OverlayUse use) override { prepared += use; }
     int begin(Opening what, Completion completion) override
     {
         opening = std::move(what);

@@ -33,5 +33,7 @@ CommandBody setUpWindows(CommandOptions &options);
 CommandBody setUpCollage(CommandOptions &options);
 CommandBody setUpText(CommandOptions &options);
 CommandBody setUpHistory(CommandOptions &options);
+CommandBody setUpOpen(CommandOptions &options);
+CommandBody setUpSettings(CommandOptions &options);
 
 } // namespace tessaly

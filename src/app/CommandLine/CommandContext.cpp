@@ -9,7 +9,7 @@ CommandContext::CommandContext(const CommandEnvironment &environment) : m_enviro
 
 CommandContext::~CommandContext() = default;
 
-const Settings &CommandContext::settings()
+Settings &CommandContext::settings()
 {
     if (!m_settings) {
         m_settings = std::make_unique<Settings>(Settings::defaultPath());

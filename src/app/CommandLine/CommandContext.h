@@ -20,7 +20,7 @@ public:
     const CommandEnvironment &environment() const { return m_environment; }
 
     /// The user's settings; when they cannot be read a message says so, and the defaults hold.
-    const Settings &settings();
+    Settings &settings();
 
     /// Writes a command's result to standard output; the status says whether it went.
     ExitStatus print(const QByteArray &result);

@@ -14,6 +14,7 @@ namespace tessaly {
 namespace {
 
 constexpr Command commands[] = {
+    { "open", "Open pictures and documents in the editor", setUpOpen },
     { "export", "Write pictures with their marks, frame and watermark", setUpExport },
     { "document", "Make an editable document of a picture", setUpDocument },
     { "info", "Say what is in a picture or document", setUpInfo },
@@ -22,6 +23,7 @@ constexpr Command commands[] = {
     { "windows", "List the windows that can be captured", setUpWindows },
     { "text", "Read the text and the codes in pictures", setUpText },
     { "history", "Find, open and remove the captures that were kept", setUpHistory },
+    { "settings", "Show and change the settings", setUpSettings },
     { "collage", "Join pictures side by side or stacked", setUpCollage },
 };
 

@@ -16,8 +16,12 @@ namespace tessaly::DesktopProgram {
 
 bool isMeant(int argc, char **argv)
 {
-    if (argc < 2 || std::strcmp(argv[1], "--") == 0)
+    if (argc < 2)
         return true;
+    for (const char *option : { "--", "--resident", "--action" }) {
+        if (std::strcmp(argv[1], option) == 0)
+            return true;
+    }
     return argv[1][0] != '-' && ::access(argv[1], F_OK) == 0;
 }
 

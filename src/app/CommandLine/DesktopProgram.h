@@ -12,8 +12,8 @@ class Console;
 
 namespace tessaly::DesktopProgram {
 
-/// Whether the arguments, which begin with no command, ask for a window: there are none, or the first is "--" or the
-/// name of something that exists.
+/// Whether the arguments, which begin with no command, ask for a window: there are none, or the first is "--",
+/// "--resident", "--action" or the name of something that exists.
 bool isMeant(int argc, char **argv);
 
 /// Becomes the desktop program with the same arguments, which begin with the program's name. Only comes back when

@@ -149,7 +149,7 @@ CommandBody setUpSearch(CommandOptions &options)
 
 constexpr char idHelp[] = "Id of a capture, as the list shows it, or as much of its beginning as no other has";
 
-CommandBody setUpOpen(CommandOptions &options)
+CommandBody setUpOpenCapture(CommandOptions &options)
 {
     auto id = std::make_shared<QString>();
     options.input(*id, "ID", idHelp);
@@ -183,7 +183,7 @@ CommandBody setUpEmpty(CommandOptions &options)
 constexpr Command historyCommands[] = {
     { "list", "All captures, the newest first", setUpList },
     { "search", "The captures with words in their title, date or text", setUpSearch },
-    { "open", "Open a capture in the editor", setUpOpen },
+    { "open", "Open a capture in the editor", setUpOpenCapture },
     { "export", "Write a capture with its marks, frame and watermark", setUpHistoryExport },
     { "remove", "Delete captures from the history", setUpRemove },
     { "empty", "Delete all captures from the history", setUpEmpty },

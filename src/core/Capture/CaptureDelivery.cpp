@@ -12,13 +12,11 @@ namespace tessaly::CaptureDelivery {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("CaptureService", text); }
-
 void toClipboard(const CaptureService::Surroundings &with, const RasterImage &image, const QString &title)
 {
     with.router.record(image, title);
     with.exports.copy(image, true);
-    with.toasts.show(tr("Copied to clipboard"));
+    with.toasts.show(QCoreApplication::translate("CaptureService", "Copied to clipboard"));
 }
 
 CaptureOutcome toFile(const CaptureService::Surroundings &with, const CaptureRequest &request, const RasterImage &image,
@@ -57,7 +55,8 @@ CaptureOutcome route(const CaptureService::Surroundings &with, const CaptureRequ
 CaptureOutcome deliver(const CaptureService::Surroundings &with, const CaptureRequest &request,
     const RasterImage &image, const QString &sourceName)
 {
-    return route(with, request, image, sourceName.isEmpty() ? tr("Screenshot") : sourceName);
+    return route(with, request, image,
+        sourceName.isEmpty() ? QCoreApplication::translate("CaptureService", "Screenshot") : sourceName);
 }
 
 } // namespace tessaly::CaptureDelivery

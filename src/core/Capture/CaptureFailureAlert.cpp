@@ -10,9 +10,7 @@ namespace tessaly::CaptureFailureAlert {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("CaptureService", text); }
-
-QString message() { return tr("Couldn't capture the screen"); }
+QString message() { return QCoreApplication::translate("CaptureService", "Couldn't capture the screen"); }
 
 } // namespace
 
@@ -26,12 +24,14 @@ void showWithWaysOut(const CaptureService::Surroundings &with, const Failure &fa
     QStringList paragraphs;
     if (const auto wayOut = with.screen.wayOut())
         paragraphs += *wayOut;
-    paragraphs += tr("Can't grant the permission? Keep using the macOS shortcut ⇧⌘4 and Tessaly will open each "
-                     "screenshot in the editor, or paste a screenshot with ⇧⌘N.");
-    paragraphs += tr("Detail: %1").arg(failure.message);
+    paragraphs += QCoreApplication::translate("CaptureService",
+        "Can't grant the permission? Keep using the macOS shortcut ⇧⌘4 and Tessaly will open each "
+        "screenshot in the editor, or paste a screenshot with ⇧⌘N.");
+    paragraphs += QCoreApplication::translate("CaptureService", "Detail: %1").arg(failure.message);
     const int answer = with.alerts.ask({ .message = message(),
         .informativeText = paragraphs.join(QStringLiteral("\n\n")),
-        .answers = { { tr("Use System Screenshots…") }, { tr("Close") } },
+        .answers = { { QCoreApplication::translate("CaptureService", "Use System Screenshots…") },
+            { QCoreApplication::translate("CaptureService", "Close") } },
         .escapeAnswer = 1 });
     if (answer == 0)
         with.watcher.enableChoosingFolder();

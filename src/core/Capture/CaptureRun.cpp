@@ -52,9 +52,9 @@ void CaptureRun::abandon()
 
 int CaptureRun::delay() const
 {
-    constexpr double longest = 24 * 60 * 60;
-    const double stored = std::clamp(m_with.settings.value(SettingKeys::captureDelay), 0.0, longest);
-    return m_request.delaySeconds.value_or(static_cast<int>(stored));
+    constexpr int longest = 24 * 60 * 60;
+    const int stored = std::clamp(m_with.settings.value(SettingKeys::captureDelay), 0, longest);
+    return m_request.delaySeconds.value_or(stored);
 }
 
 bool CaptureRun::leavesOutDesktopIcons() const

@@ -21,7 +21,7 @@ constexpr milliseconds beforeListingWindows { 60 };
 
 void CaptureRun::select()
 {
-    m_with.overlay.prepare(); // goes on while the screen is read
+    m_with.overlay.prepare(OverlayUse::AtOnce); // goes on while the screen is read
     m_freezes = m_with.settings.value(SettingKeys::freezeScreenWhileSelecting);
     if (m_freezes)
         return countDown(delay(), [this] { openOverPictures(); });

@@ -46,7 +46,10 @@ CaptureService::Implementation::Implementation(CaptureService &owner, const Surr
     rest.setInterval(with.rest);
     readiness.setSingleShot(true);
     readiness.setInterval(std::min(with.rest, milliseconds(1000)));
-    QObject::connect(&readiness, &QTimer::timeout, &service, [this] { with.screen.prepare(); });
+    QObject::connect(&readiness, &QTimer::timeout, &service, [this] {
+        with.overlay.prepare(OverlayUse::Later);
+        with.screen.prepare();
+    });
     QObject::connect(&rest, &QTimer::timeout, &service, [this] { with.screen.release(); });
 }
 
@@ -215,7 +218,7 @@ bool CaptureService::canPickWindows() const { return m_implementation->with.pick
 
 void CaptureService::prepare()
 {
-    m_implementation->with.overlay.prepare();
+    m_implementation->with.overlay.prepare(OverlayUse::Later);
     m_implementation->with.screen.prepare();
     if (!m_implementation->run)
         m_implementation->rest.start();

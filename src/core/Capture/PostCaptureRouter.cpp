@@ -17,8 +17,6 @@ namespace tessaly {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("PostCaptureRouter", text); }
-
 /// More captures than that in one second are not taken; it only ends the search in a folder that answers nonsense.
 constexpr int mostNumbers = 10'000;
 /// Pictures on their way to the history, which may be 33 MB each.
@@ -97,7 +95,7 @@ Result<QString> PostCaptureRouter::writeInto(
         if (!created)
             return created.failure();
     }
-    return Failure { tr("%1 has no free name left.").arg(folder) };
+    return Failure { QCoreApplication::translate("PostCaptureRouter", "%1 has no free name left.").arg(folder) };
 }
 
 Result<QString> PostCaptureRouter::saveTo(const QString &path, const RasterImage &image)
@@ -105,7 +103,9 @@ Result<QString> PostCaptureRouter::saveTo(const QString &path, const RasterImage
     const auto format = formatOfExtension(QFileInfo(path).suffix()).value_or(ExportFormat::Png);
     const auto bytes = m_surroundings.exports.data(image, format);
     if (!bytes)
-        return tell({ tr("%1 could not be written: the picture does not fit its format.").arg(path) });
+        return tell({ QCoreApplication::translate(
+            "PostCaptureRouter", "%1 could not be written: the picture does not fit its format.")
+                          .arg(path) });
     const bool ignores = !QFileInfo::exists(path) && m_surroundings.watcher.ignorePath(path);
     if (const auto written = SafeFile::write(path, *bytes); !written) {
         if (ignores)
@@ -117,7 +117,8 @@ Result<QString> PostCaptureRouter::saveTo(const QString &path, const RasterImage
 
 Failure PostCaptureRouter::tell(Failure failure)
 {
-    m_surroundings.alerts.warn(tr("Couldn't save the image"), failure.message);
+    m_surroundings.alerts.warn(
+        QCoreApplication::translate("PostCaptureRouter", "Couldn't save the image"), failure.message);
     return failure;
 }
 

@@ -16,8 +16,6 @@ namespace tessaly {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("DocumentActions", text); }
-
 /// Where an exported image's document goes: beside it, under its name.
 QString companionPath(const QString &imagePath)
 {
@@ -76,7 +74,7 @@ bool DocumentActions::save(AnnotationStore &store)
 
 bool DocumentActions::saveAsDocument(AnnotationStore &store)
 {
-    QString name = tr("Screenshot") + QStringLiteral(".tessaly");
+    QString name = QCoreApplication::translate("DocumentActions", "Screenshot") + QStringLiteral(".tessaly");
     QString folder = m_surroundings.settings.value(SettingKeys::defaultSaveFolder);
     if (store.documentURL()) {
         const QFileInfo document(store.documentURL()->toLocalFile());
@@ -94,7 +92,8 @@ bool DocumentActions::write(AnnotationStore &store, const QString &path)
     if (!written)
         return false;
     if (!*written) {
-        m_surroundings.alerts.warn(tr("Couldn't save the document"), written->failure().message);
+        m_surroundings.alerts.warn(
+            QCoreApplication::translate("DocumentActions", "Couldn't save the document"), written->failure().message);
         return false;
     }
     store.setDocumentURL(QUrl::fromLocalFile(path));
@@ -116,7 +115,8 @@ void DocumentActions::writeCompanion(AnnotationStore &store, const Moment &momen
         return;
     if (!*written) {
         m_surroundings.alerts.warn(
-            tr("Couldn't save the Tessaly document next to the image"), written->failure().message);
+            QCoreApplication::translate("DocumentActions", "Couldn't save the Tessaly document next to the image"),
+            written->failure().message);
         return;
     }
     if (!store.documentURL() || isDocumentOf(store, path))
@@ -133,7 +133,7 @@ std::optional<RasterImage> DocumentActions::flattened(const FrameComposition &fr
 {
     const auto image = std::make_shared<std::optional<RasterImage>>();
     const auto flatten = [framed, image](const Cancellation &) { *image = FlattenService::flatten(framed); };
-    if (!m_surroundings.work.run(tr("Preparing the image…"), flatten))
+    if (!m_surroundings.work.run(QCoreApplication::translate("DocumentActions", "Preparing the image…"), flatten))
         return std::nullopt;
     if (!*image)
         FlattenService::alertOfFailure(m_surroundings.alerts);
@@ -147,14 +147,14 @@ std::optional<Outcome> DocumentActions::writePackage(const Moment &moment, const
     const auto made = std::make_shared<Made>(TessalyDocument::Failure {});
     const auto make
         = [source = moment.source, made](const Cancellation &) { *made = TessalyDocument::package(source); };
-    if (!m_surroundings.work.run(tr("Saving the document…"), make))
+    if (!m_surroundings.work.run(QCoreApplication::translate("DocumentActions", "Saving the document…"), make))
         return std::nullopt;
     if (!*made)
         return Outcome(Failure { made->failure().description() });
     // Only what is still wanted is written, so the writing itself waits until here.
-    Outcome written = Failure { tr("There is not enough memory for it.") };
-    m_surroundings.work.complete(
-        tr("Saving the document…"), [&](const Cancellation &) { written = TessalyDocument::write(**made, path); });
+    Outcome written = Failure { QCoreApplication::translate("DocumentActions", "There is not enough memory for it.") };
+    m_surroundings.work.complete(QCoreApplication::translate("DocumentActions", "Saving the document…"),
+        [&](const Cancellation &) { written = TessalyDocument::write(**made, path); });
     return written;
 }
 

@@ -25,8 +25,6 @@ namespace {
 
 constexpr QLatin1StringView uriListType("text/uri-list");
 
-QString tr(const char *sentence) { return QCoreApplication::translate("MarkClipboard", sentence); }
-
 QRectF canvasOf(const AnnotationStore &store) { return { QPointF(), store.image().pointSize }; }
 
 void add(AnnotationStore &store, const QList<Annotation> &marks)
@@ -59,7 +57,8 @@ Outcome pasteMarks(AnnotationStore &store, const QByteArray &json, std::optional
 {
     const auto document = AnnotationDocument::decoded(json);
     if (!document || document->annotations.isEmpty())
-        return Failure { tr("What was copied is damaged and can't be pasted.") };
+        return Failure { QCoreApplication::translate(
+            "MarkClipboard", "What was copied is damaged and can't be pasted.") };
     const QPointF offset = offsetOf(document->annotations, store, at);
     store.beginChange();
     QList<Annotation> pasted;
@@ -142,13 +141,15 @@ Outcome MarkClipboard::paste(AnnotationStore &store, std::optional<QPointF> at)
     if (types.contains(QLatin1StringView(mimeType)))
         return pasteMarks(store, m_clipboard.data(QLatin1StringView(mimeType)), at);
     if (const QString type = imageType(types); !type.isEmpty())
-        return insertImage(store, m_clipboard.data(type), tr("The copied picture"), at);
+        return insertImage(
+            store, m_clipboard.data(type), QCoreApplication::translate("MarkClipboard", "The copied picture"), at);
     if (types.contains(uriListType))
         if (const QString path = copiedPicture(m_clipboard.data(uriListType)); !path.isEmpty())
             return insertImageFile(store, path, at);
     const QString text = TextOffer::textOf(m_clipboard);
     if (text.trimmed().isEmpty())
-        return Failure { tr("There is nothing on the clipboard that can be pasted here.") };
+        return Failure { QCoreApplication::translate(
+            "MarkClipboard", "There is nothing on the clipboard that can be pasted here.") };
     pasteText(store, text, at);
     return Done {};
 }
@@ -180,10 +181,14 @@ Outcome insertImageFile(AnnotationStore &store, const QString &path, std::option
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Failure { tr("“%1” can't be read: %2").arg(name, file.errorString()) };
+        return Failure {
+            QCoreApplication::translate("MarkClipboard", "“%1” can't be read: %2").arg(name, file.errorString())
+        };
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        return Failure { tr("“%1” can't be read: %2").arg(name, file.errorString()) };
+        return Failure {
+            QCoreApplication::translate("MarkClipboard", "“%1” can't be read: %2").arg(name, file.errorString())
+        };
     return insertImage(store, bytes, name, at);
 }
 

@@ -13,12 +13,6 @@
 
 namespace tessaly {
 
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("ExportService", text); }
-
-} // namespace
-
 SavePanels::~SavePanels() = default;
 
 ExportService::ExportService(const Surroundings &surroundings) : m_surroundings(surroundings) { }
@@ -32,7 +26,7 @@ std::optional<QByteArray> ExportService::data(
         if (auto encoded = encodeImage(image, format, options))
             *bytes = std::move(*encoded);
     };
-    if (!m_surroundings.work.run(tr("Encoding the image…"), encode))
+    if (!m_surroundings.work.run(QCoreApplication::translate("ExportService", "Encoding the image…"), encode))
         return std::nullopt;
     return std::move(*bytes);
 }
@@ -55,7 +49,7 @@ std::optional<QString> ExportService::saveAs(
     const RasterImage &image, ExportFormat format, const std::function<void(const QString &)> &writeDocument)
 {
     const auto choice = m_surroundings.panels.chooseImage({ .format = format,
-        .baseName = tr("Screenshot"),
+        .baseName = QCoreApplication::translate("ExportService", "Screenshot"),
         .folder = m_surroundings.settings.value(SettingKeys::defaultSaveFolder),
         .offersDocument = static_cast<bool>(writeDocument) });
     if (!choice)
@@ -64,11 +58,12 @@ std::optional<QString> ExportService::saveAs(
     const auto bytes = data(image, choice->format, choice->quality);
     if (!bytes)
         return std::nullopt;
-    Outcome written = Failure { tr("There is not enough memory for it.") };
-    m_surroundings.work.complete(tr("Saving the image…"),
+    Outcome written = Failure { QCoreApplication::translate("ExportService", "There is not enough memory for it.") };
+    m_surroundings.work.complete(QCoreApplication::translate("ExportService", "Saving the image…"),
         [&written, &choice, &bytes](const Cancellation &) { written = SafeFile::write(choice->path, *bytes); });
     if (!written) {
-        m_surroundings.alerts.warn(tr("Couldn't save the image"), written.failure().message);
+        m_surroundings.alerts.warn(
+            QCoreApplication::translate("ExportService", "Couldn't save the image"), written.failure().message);
         return std::nullopt;
     }
     if (writeDocument && choice->alsoDocument)
@@ -98,7 +93,8 @@ void ExportService::share(const RasterImage &image)
     const auto path = writeShareFile(*png, name, privateTemporaryFolder());
     const Outcome shared = path ? m_surroundings.sharing.share(*path) : Outcome(path.failure());
     if (!shared)
-        m_surroundings.alerts.warn(tr("Couldn't share the image"), shared.failure().message);
+        m_surroundings.alerts.warn(
+            QCoreApplication::translate("ExportService", "Couldn't share the image"), shared.failure().message);
 }
 
 } // namespace tessaly

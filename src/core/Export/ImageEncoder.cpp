@@ -35,25 +35,25 @@ constexpr std::array<Encoder, 7> encoders { {
     { ExportFormat::Bmp, BmpEncoder::encode },
 } };
 
-QString tr(const char *text) { return QCoreApplication::translate("ImageEncoder", text); }
-
 } // namespace
 
 Result<QByteArray> encodeImage(const RasterImage &image, ExportFormat format, const EncodeOptions &options)
 {
     if (image.isEmpty())
-        return Failure { tr("There is no picture to write.") };
+        return Failure { QCoreApplication::translate("ImageEncoder", "There is no picture to write.") };
     const Encoder &encoder = *std::ranges::find(encoders, format, &Encoder::format);
     const QSize size = image.pixelSize();
     if (std::max(size.width(), size.height()) > encoder.maxSide) {
-        return Failure { tr("A %1 picture can be at most %2 pixels wide and high, and this one has %3 × %4.")
+        return Failure { QCoreApplication::translate(
+            "ImageEncoder", "A %1 picture can be at most %2 pixels wide and high, and this one has %3 × %4.")
                              .arg(label(format), QString::number(encoder.maxSide), QString::number(size.width()),
                                  QString::number(size.height())) };
     }
     try {
         return encoder.encode(image, options);
     } catch (const std::bad_alloc &) {
-        return Failure { tr("There is not enough memory to write this picture.") };
+        return Failure { QCoreApplication::translate(
+            "ImageEncoder", "There is not enough memory to write this picture.") };
     }
 }
 

@@ -19,8 +19,8 @@ QString retentionTitle(int days)
 
 int retentionDays(const Settings &settings)
 {
-    constexpr double most = 1e6; // so that any number in the file can be counted with
-    return static_cast<int>(std::clamp(settings.value(SettingKeys::historyRetentionDays), 0.0, most));
+    constexpr int most = 1000000; // so that any number in the file can be counted with
+    return std::clamp(settings.value(SettingKeys::historyRetentionDays), 0, most);
 }
 
 QList<QUuid> expired(

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/History/HistoryThumbnails.h"
 
-#include "core/Document/PackageFolder.h"
+#include "core/Document/FileThumbnail.h"
 
 #include <QCache>
 #include <QFileInfo>
@@ -34,36 +34,6 @@ struct Key {
 size_t qHash(const Key &key, size_t seed = 0)
 {
     return qHashMulti(seed, key.id, key.modified.toMSecsSinceEpoch(), key.pixelSize.width(), key.pixelSize.height());
-}
-
-QImage fitted(const QImage &picture, QSize pixelSize)
-{
-    if (picture.width() <= pixelSize.width() && picture.height() <= pixelSize.height())
-        return picture;
-    const QSize size = picture.size().scaled(pixelSize, Qt::KeepAspectRatio).expandedTo({ 1, 1 });
-    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-/// One picture of a package; null when it is not there or cannot be read.
-QImage picture(const PackageFolder::Reader &package, const char *name, qint64 maxPixels)
-{
-    const auto bytes = package.entry(name, maxPixels * 4 + (1 << 20));
-    if (!bytes)
-        return {};
-    const auto image = readImage(*bytes, QLatin1StringView(name), { .pixelsPerPoint = 1, .maxPixels = maxPixels });
-    return image ? image->pixels : QImage();
-}
-
-/// The small picture that the package brings along, else one made from the capture itself.
-QImage readThumbnail(const QString &packagePath, QSize pixelSize)
-{
-    constexpr qint64 maxThumbnailPixels = 4096 * 4096, maxImagePixels = 8192 * 8192;
-    const PackageFolder::Reader package(packagePath);
-    const bool linked = QFileInfo(packagePath + u'/' + QLatin1StringView(PackageFolder::thumbnailFolder)).isSymLink();
-    QImage image = linked ? QImage() : picture(package, PackageFolder::thumbnailName, maxThumbnailPixels);
-    if (image.isNull())
-        image = picture(package, PackageFolder::imageName, maxImagePixels);
-    return image.isNull() ? image : fitted(image, pixelSize);
 }
 
 } // namespace
@@ -135,7 +105,7 @@ private:
             m_waiting.pop_back();
         }
         const QString path = m_files.packagePath(key.id);
-        QImage image = readThumbnail(path, key.pixelSize);
+        QImage image = packageThumbnail(path, key.pixelSize);
         const bool isMissing = image.isNull() && !QFileInfo::exists(path);
         QMetaObject::invokeMethod(
             &m_owner, [this, key, image = std::move(image), isMissing] { take(key, image, isMissing); },

@@ -28,9 +28,10 @@ namespace {
 constexpr std::array<QByteArrayView, 14> knownFormats { "png", "jpeg", "webp", "tiff", "gif", "bmp", "ppm", "pgm",
     "pbm", "ico", "tga", "xpm", "xbm", "wbmp" };
 
-QString tr(const char *text) { return QCoreApplication::translate("ImageReading", text); }
-
-Failure damaged(const QString &name) { return { tr("%1 is damaged or incomplete.").arg(name) }; }
+Failure damaged(const QString &name)
+{
+    return { QCoreApplication::translate("ImageReading", "%1 is damaged or incomplete.").arg(name) };
+}
 
 bool isKnown(const QByteArray &format)
 {
@@ -61,16 +62,19 @@ Header headerOf(QImageReader &reader, const QByteArray &bytes)
 Outcome checkHeader(QImageReader &reader, const QByteArray &bytes, const QString &name, const ImageReadOptions &options)
 {
     if (bytes.isEmpty())
-        return Failure { tr("%1 is empty.").arg(name) };
+        return Failure { QCoreApplication::translate("ImageReading", "%1 is empty.").arg(name) };
     const auto [format, size] = headerOf(reader, bytes);
     if (!isKnown(format))
-        return Failure { tr("%1 is not a picture of a format that can be read.").arg(name) };
+        return Failure {
+            QCoreApplication::translate("ImageReading", "%1 is not a picture of a format that can be read.").arg(name)
+        };
     if (!hasWholePicture(bytes))
         return damaged(name);
     if (size.isEmpty())
         return damaged(name);
     if (qint64(size.width()) * size.height() > options.maxPixels) {
-        return Failure { tr("%1 has %2 × %3 pixels, more than the %4 million that are allowed.")
+        return Failure { QCoreApplication::translate(
+            "ImageReading", "%1 has %2 × %3 pixels, more than the %4 million that are allowed.")
                              .arg(name, QString::number(size.width()), QString::number(size.height()),
                                  QString::number(options.maxPixels / 1'000'000)) };
     }
@@ -114,7 +118,8 @@ private:
 
 Failure unreadable(const QString &path, int error)
 {
-    return { tr("%1 could not be read: %2.").arg(path, QString::fromLocal8Bit(std::strerror(error))) };
+    return { QCoreApplication::translate("ImageReading", "%1 could not be read: %2.")
+                 .arg(path, QString::fromLocal8Bit(std::strerror(error))) };
 }
 
 /// More than this no picture of `maxPixels` takes, at 8 bytes a pixel and with much beside them.
@@ -127,17 +132,23 @@ Result<QByteArray> readWholeFile(const QString &path, const ImageReadOptions &op
     if (file.descriptor() < 0 || ::fstat(file.descriptor(), &status) != 0)
         return unreadable(path, errno);
     if (S_ISDIR(status.st_mode))
-        return Failure { tr("%1 is a folder and not a picture.").arg(path) };
+        return Failure { QCoreApplication::translate("ImageReading", "%1 is a folder and not a picture.").arg(path) };
     if (!S_ISREG(status.st_mode))
-        return Failure { tr("%1 is not a file that holds a picture.").arg(path) };
+        return Failure {
+            QCoreApplication::translate("ImageReading", "%1 is not a file that holds a picture.").arg(path)
+        };
     if (status.st_size > maxFileBytes(options))
-        return Failure { tr("%1 is too large for a picture.").arg(path) };
+        return Failure { QCoreApplication::translate("ImageReading", "%1 is too large for a picture.").arg(path) };
     QFile stream;
     if (!stream.open(file.descriptor(), QIODevice::ReadOnly))
-        return Failure { tr("%1 could not be read: %2.").arg(path, stream.errorString()) };
+        return Failure {
+            QCoreApplication::translate("ImageReading", "%1 could not be read: %2.").arg(path, stream.errorString())
+        };
     QByteArray bytes = stream.read(status.st_size);
     if (stream.error() != QFileDevice::NoError)
-        return Failure { tr("%1 could not be read: %2.").arg(path, stream.errorString()) };
+        return Failure {
+            QCoreApplication::translate("ImageReading", "%1 could not be read: %2.").arg(path, stream.errorString())
+        };
     return bytes;
 }
 
@@ -150,7 +161,9 @@ Result<RasterImage> readImage(const QByteArray &bytes, const QString &name, cons
     if (QImage pixels = decodePng(bytes, options.maxPixels); !pixels.isNull())
         return RasterImage::fromPixels(std::move(pixels), pixelsPerPoint());
     if (!options.withPlugIns)
-        return Failure { tr("%1 is not a picture of a format that can be read.").arg(name) };
+        return Failure {
+            QCoreApplication::translate("ImageReading", "%1 is not a picture of a format that can be read.").arg(name)
+        };
 
     QBuffer buffer;
     buffer.setData(bytes);

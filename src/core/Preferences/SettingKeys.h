@@ -56,10 +56,10 @@ inline constexpr SettingKey<bool> liveTextEnabled { "liveTextEnabled", false };
 
 inline constexpr SettingKey<bool> historyEnabled { "historyEnabled", true };
 /// Whole days; below 1 captures are kept until they are deleted.
-inline constexpr SettingKey<double> historyRetentionDays { "historyRetentionDays", 30.0 };
+inline constexpr SettingKey<int> historyRetentionDays { "historyRetentionDays", 30 };
 
 /// Of a capture. The delay is whole seconds; below 1 there is none.
-inline constexpr SettingKey<double> captureDelay { "captureDelay", 0.0 };
+inline constexpr SettingKey<int> captureDelay { "captureDelay", 0 };
 inline constexpr SettingKey<bool> captureSound { "captureSound", false };
 inline constexpr SettingKey<bool> freezeScreenWhileSelecting { "freezeScreenWhileSelecting", false };
 inline constexpr SettingKey<bool> showMagnifierWhileSelecting { "showMagnifierWhileSelecting", true };
@@ -69,7 +69,7 @@ inline constexpr SettingKey<bool> windowCaptureShadow { "windowCaptureShadow", t
 inline constexpr SettingKey<bool> windowCaptureTransparentBackground { "windowCaptureTransparentBackground", true };
 /// An array of five numbers: the display's id, then x, y, width and height in its points.
 inline constexpr SettingKey<Bytes> lastRegionRect { "lastRegionRect", {} };
-inline constexpr SettingKey<double> newsletterCaptureCount { "newsletterCaptureCount", 0.0 };
+inline constexpr SettingKey<int> newsletterCaptureCount { "newsletterCaptureCount", 0 };
 
 /// What happens to a capture, in any combination.
 inline constexpr SettingKey<bool> afterCaptureShow { "afterCaptureShow", true };
@@ -83,8 +83,21 @@ inline constexpr SettingKey<bool> watchSystemScreenshots { "watchSystemScreensho
 /// The path of the folder that is watched.
 inline constexpr SettingKey<const char *> systemScreenshotsFolder { "systemScreenshotsFolderBookmark", "" };
 
-/// Where the start window was when it was last closed.
+/// Where the program can be reached: ordinary windows from the start, an icon in the tray. At least one is on.
+inline constexpr SettingKey<bool> showInDock { "showInDock", false };
+inline constexpr SettingKey<bool> showInMenuBar { "showInMenuBar", true };
+inline constexpr SettingKey<bool> showOnboardingOnLaunch { "showOnboardingOnLaunch", true };
+inline constexpr SettingKey<bool> didShowOnboarding { "didShowOnboarding", false };
+/// The version whose novelties the user has seen or never lacked; empty before the first start.
+inline constexpr SettingKey<const char *> whatsNewVersion { "whatsNewVersion", "" };
+/// "system" or the name of a language of core/Preferences/AppLanguages.h: "en", "de".
+inline constexpr SettingKey<const char *> appLanguage { "appLanguage", "system" };
+/// The tab that the settings window shows: "general", "capture", "shortcuts", "editor" or "history".
+inline constexpr SettingKey<const char *> settingsTab { "settingsTab", "general" };
+
+/// Where these windows were when they were last closed.
 inline constexpr SettingKey<Bytes> startWindowFrame { "TessalyStartWindow", {} };
+inline constexpr SettingKey<Bytes> settingsWindowFrame { "TessalySettingsWindow", {} };
 inline constexpr SettingKey<const char *> appearance { "appearance", "system" };
 inline constexpr SettingKey<Bytes> savedAnnotationStyles { "savedAnnotationStyles", {} };
 inline constexpr SettingKey<Bytes> recentDocuments { "recentDocuments", {} };

@@ -1,73 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Preferences/Settings.h"
 
-#include "core/Base/SafeFile.h"
+#include "core/Preferences/SettingTable.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
 #include <QStandardPaths>
 
 #include <cmath>
 
 namespace tessaly {
 
-namespace {
-
-/// No settings come near this; a longer file is not ours.
-constexpr qint64 maxFileBytes = qint64(64) * 1024 * 1024;
-
-Failure failure(const QString &path, const char *sentence, const QString &reason = {})
+Settings::Settings(QString path) : m_file(std::move(path))
 {
-    return { QCoreApplication::translate("Settings", sentence).arg(path, reason) };
-}
-
-Result<QJsonObject> readObject(const QString &path)
-{
-    QFile file(path);
-    if (!file.exists())
-        return QJsonObject();
-    if (!QFileInfo(path).isFile())
-        return failure(path, QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be read: it is not a file."));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return failure(path, QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be read: %2."), file.errorString());
-    }
-    if (file.size() > maxFileBytes)
-        return failure(path, QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be read: the file is too large."));
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
-    if (error.error != QJsonParseError::NoError) {
-        return failure(path, QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be read: %2."), error.errorString());
-    }
-    if (!document.isObject())
-        return failure(path, QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be read: they are a list."));
-    return document.object();
-}
-
-/// Renames the file to the first free name of its kind; nothing that was put aside before is lost.
-bool putAside(const QString &path)
-{
-    for (int number = 1; number <= 100; ++number) {
-        const QString aside = path + QStringLiteral(".unreadable-%1").arg(number);
-        if (!QFileInfo::exists(aside))
-            return QDir().rename(path, aside);
-    }
-    return false;
-}
-
-} // namespace
-
-Settings::Settings(QString path) : m_path(std::move(path))
-{
-    if (m_path.isEmpty())
-        return;
-    if (auto values = readObject(m_path))
+    if (auto values = m_file.read())
         m_values = *std::move(values);
     else
         m_problem = values.failure();
+    connect(&m_file, &SettingsFile::otherChange, this, &Settings::reread);
 }
+
+void Settings::followOthers() { m_file.follow(); }
 
 QString Settings::defaultPath()
 {
@@ -80,6 +32,11 @@ bool Settings::value(const SettingKey<bool> &key) const
     return m_values.value(QLatin1StringView(key.name)).toBool(key.fallback);
 }
 
+int Settings::value(const SettingKey<int> &key) const
+{
+    return m_values.value(QLatin1StringView(key.name)).toInt(key.fallback);
+}
+
 double Settings::value(const SettingKey<double> &key) const
 {
     return m_values.value(QLatin1StringView(key.name)).toDouble(key.fallback);
@@ -87,7 +44,12 @@ double Settings::value(const SettingKey<double> &key) const
 
 QString Settings::value(const SettingKey<const char *> &key) const
 {
-    return m_values.value(QLatin1StringView(key.name)).toString(QLatin1StringView(key.fallback));
+    const QLatin1StringView name(key.name);
+    const QJsonValue stored = m_values.value(name);
+    if (!stored.isString())
+        return QLatin1StringView(key.fallback);
+    const SettingRow *row = SettingTable::find(QString(name));
+    return row && !row->acceptsText(stored.toString()) ? QString(QLatin1StringView(key.fallback)) : stored.toString();
 }
 
 std::optional<QByteArray> Settings::value(const SettingKey<SettingKeys::Bytes> &key) const
@@ -98,11 +60,13 @@ std::optional<QByteArray> Settings::value(const SettingKey<SettingKeys::Bytes> &
 
 Outcome Settings::set(const SettingKey<bool> &key, bool value) { return store(key.name, value, key.fallback); }
 
+Outcome Settings::set(const SettingKey<int> &key, int value) { return store(key.name, value, key.fallback); }
+
 Outcome Settings::set(const SettingKey<double> &key, double value)
 {
     if (!std::isfinite(value))
-        return failure(
-            QLatin1StringView(key.name), QT_TRANSLATE_NOOP("Settings", "The setting %1 needs a finite number."));
+        return Failure { QCoreApplication::translate("Settings", "The setting %1 needs a finite number.")
+                             .arg(QLatin1StringView(key.name)) };
     return store(key.name, value, key.fallback);
 }
 
@@ -116,41 +80,81 @@ Outcome Settings::set(const SettingKey<SettingKeys::Bytes> &key, const QByteArra
     return store(key.name, QString::fromUtf8(value), QJsonValue::Undefined);
 }
 
+Outcome Settings::reset(const char *key) { return store(key, QJsonValue::Undefined, QJsonValue::Undefined); }
+
+Outcome Settings::changeTogether(const std::function<void()> &changes)
+{
+    const bool isInner = std::exchange(m_collects, true);
+    changes();
+    m_collects = isInner;
+    const QJsonObject before = m_values;
+    Outcome outcome = isInner || m_unwritten.isEmpty() ? Outcome(Done {}) : write();
+    announce(before);
+    return outcome;
+}
+
 Outcome Settings::store(const char *key, const QJsonValue &value, const QJsonValue &fallback)
 {
+    if (!m_collects && m_file.isOther())
+        reread();
+    const QJsonObject before = m_values;
     const QLatin1StringView name(key);
-    const QJsonValue before = m_values.value(name);
     if (value == fallback)
         m_values.remove(name);
     else
         m_values.insert(name, value);
-    if (m_path.isEmpty() || (m_written && m_values.value(name) == before))
-        return Done {};
-    if (!m_collects)
-        return write();
-    m_written = false;
-    return Done {};
-}
-
-Outcome Settings::changeTogether(const std::function<void()> &changes)
-{
-    m_collects = true;
-    changes();
-    m_collects = false;
-    return m_written ? Outcome(Done {}) : write();
+    if (m_values.value(name) != before.value(name))
+        m_unwritten.insert(name);
+    Outcome outcome = m_collects || m_unwritten.isEmpty() ? Outcome(Done {}) : write();
+    announce(before);
+    return outcome;
 }
 
 Outcome Settings::write()
 {
-    QDir().mkpath(QFileInfo(m_path).path()); // where this fails, so does writing, and says why
-    if (m_problem && QFileInfo::exists(m_path) && !putAside(m_path)) {
-        return failure(m_path,
-            QT_TRANSLATE_NOOP("Settings", "The settings %1 cannot be written: the unreadable file stays in the way."));
+    Outcome outcome = m_file.update([this](const std::optional<QJsonObject> &there) {
+        if (there)
+            takeOver(*there);
+        return m_values;
+    });
+    if (outcome) {
+        m_unwritten.clear();
+        m_problem.reset();
     }
-    m_problem.reset();
-    const auto outcome = SafeFile::write(m_path, QJsonDocument(m_values).toJson());
-    m_written = static_cast<bool>(outcome);
     return outcome;
+}
+
+void Settings::takeOver(const QJsonObject &there)
+{
+    QJsonObject values = there;
+    for (const QString &key : std::as_const(m_unwritten)) {
+        if (const QJsonValue value = m_values.value(key); value.isUndefined())
+            values.remove(key);
+        else
+            values.insert(key, value);
+    }
+    m_values = values;
+}
+
+void Settings::reread()
+{
+    const QJsonObject before = m_values;
+    if (const auto there = m_file.read()) // one that is just being written is read at its next change
+        takeOver(*there);
+    announce(before);
+}
+
+void Settings::announce(const QJsonObject &before)
+{
+    QStringList keys = before.keys();
+    for (const QString &key : m_values.keys()) {
+        if (!before.contains(key))
+            keys += key;
+    }
+    for (const QString &key : std::as_const(keys)) {
+        if (before.value(key) != m_values.value(key))
+            Q_EMIT changed(key);
+    }
 }
 
 } // namespace tessaly

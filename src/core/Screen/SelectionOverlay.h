@@ -36,6 +36,9 @@ using OverlayResult = std::optional<std::variant<RegionSelection, FullScreenSele
 /// Pictures of whole monitors at their own pixels, by Display::id().
 using DisplaySnapshots = QHash<quint32, QImage>;
 
+/// When the overlay is going to be shown: perhaps some time, or as soon as the screen has been read.
+enum class OverlayUse : quint8 { Later, AtOnce };
+
 /// Lets the user select an area, a window or a monitor on all monitors at once. One for the program; main thread only.
 class SelectionOverlay {
 public:
@@ -52,8 +55,8 @@ public:
     /// Whether the screen goes on living under the overlay; where it cannot, pictures are needed.
     virtual bool showsLiveScreen() const = 0;
 
-    /// Makes its windows ahead of time, unseen.
-    virtual void prepare() = 0;
+    /// Makes its windows ahead of time, unseen. Before the next begin() only what is sooner made than done without.
+    virtual void prepare(OverlayUse use) = 0;
     /// Gives back what prepare() has made and is not needed while nothing is selected.
     virtual void release() { }
 

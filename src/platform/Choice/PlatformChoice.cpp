@@ -23,8 +23,6 @@ struct Forced {
 constexpr Forced forcedPlatforms[]
     = { { "x11", Platform::X11 }, { "wayland", Platform::Wayland }, { "portal", Platform::Portal } };
 
-QString tr(const char *text) { return QCoreApplication::translate("PlatformChoice", text); }
-
 bool isWaylandSession() { return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"); }
 
 Result<Platform> forcedPlatform(const QByteArray &name)
@@ -34,8 +32,11 @@ Result<Platform> forcedPlatform(const QByteArray &name)
             return row.platform;
     }
     if (name == "none")
-        return Failure { tr("TESSALY_PLATFORM=none switches capturing off.") };
-    return Failure { tr("TESSALY_PLATFORM names no platform to capture from: %1.").arg(QString::fromLocal8Bit(name)) };
+        return Failure { QCoreApplication::translate(
+            "PlatformChoice", "TESSALY_PLATFORM=none switches capturing off.") };
+    return Failure { QCoreApplication::translate(
+        "PlatformChoice", "TESSALY_PLATFORM names no platform to capture from: %1.")
+                         .arg(QString::fromLocal8Bit(name)) };
 }
 
 /// The monitors of an X server, as the portal's picture does not tell them; none without a server.
@@ -63,8 +64,11 @@ Result<Platform> platform()
         return Platform::Wayland;
     if (!qEnvironmentVariableIsEmpty("DISPLAY"))
         return Platform::X11;
-    return Failure { tr("There is no desktop to capture: neither WAYLAND_DISPLAY nor DISPLAY is set.") };
+    return Failure { QCoreApplication::translate(
+        "PlatformChoice", "There is no desktop to capture: neither WAYLAND_DISPLAY nor DISPLAY is set.") };
 }
+
+bool isForced() { return !qEnvironmentVariableIsEmpty(forcingVariable); }
 
 Result<std::unique_ptr<ScreenSource>> screenSource(CaptureUse use)
 {
@@ -76,8 +80,7 @@ Result<std::unique_ptr<ScreenSource>> screenSource(CaptureUse use)
     if (*chosen == Platform::Portal)
         return portalSource(use);
     auto source = WaylandScreenSource::create(use);
-    const bool forced = !qEnvironmentVariableIsEmpty(forcingVariable);
-    return source || forced ? std::move(source) : portalSource(use);
+    return source || isForced() ? std::move(source) : portalSource(use);
 }
 
 std::unique_ptr<WindowSource> windowSource(ScreenSource &screen)

@@ -13,6 +13,8 @@ enum class Platform { X11, Wayland, Portal };
 /// The platform of this session, by its environment alone, or the sentence that says what is missing.
 /// TESSALY_PLATFORM=x11, wayland, portal or none forces a choice.
 Result<Platform> platform();
+/// Whether that variable is set.
+bool isForced();
 
 /// The source for this desktop; where nothing can be captured the failure says what is missing. On a compositor that
 /// gives no pixels it is the portal, unless Wayland is forced.

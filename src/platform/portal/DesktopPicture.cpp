@@ -14,8 +14,6 @@ namespace tessaly::DesktopPicture {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("PortalScreenSource", text); }
-
 bool isOursToRemove(const QFileInfo &file)
 {
     return file.isFile() && !file.isSymLink() && file.ownerId() == ::geteuid();
@@ -71,10 +69,12 @@ Result<QImage> takeFile(const QString &uri)
 {
     const QUrl url(uri);
     if (!url.isLocalFile())
-        return Failure { tr("“%1” is no file of this computer.").arg(uri) };
+        return Failure {
+            QCoreApplication::translate("PortalScreenSource", "“%1” is no file of this computer.").arg(uri)
+        };
     QFile file(url.toLocalFile());
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return Failure { tr("%1 cannot be read.").arg(file.fileName()) };
+        return Failure { QCoreApplication::translate("PortalScreenSource", "%1 cannot be read.").arg(file.fileName()) };
     const QByteArray bytes = file.readAll();
     if (isOursToRemove(QFileInfo(file)) && !file.remove())
         qWarning("%s cannot be removed: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
@@ -89,7 +89,8 @@ Result<QImage> cut(const QImage &picture, const QList<Display> &displays, const 
     const Layout layout = layoutOf(displays);
     const auto scale = scaleOf(picture.size(), layout);
     if (!scale || !layout.rect.contains(display.layoutRect))
-        return Failure { tr("It does not show the whole of the screen.") };
+        return Failure { QCoreApplication::translate(
+            "PortalScreenSource", "It does not show the whole of the screen.") };
     const QImage shown = picture.copy(placeOf(display, layout, *scale, picture.size()));
     return shown.size() == display.pixelSize
         ? shown

@@ -7,8 +7,6 @@ namespace tessaly::PortalFailure {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("PortalScreenSource", text); }
-
 /// The packages that take screenshots for a desktop, as distributions name them. The last row is for all others, which
 /// are built on wlroots; their portal takes the picture with grim, starts with pipewire only, and has the GTK one ask.
 struct BackEnd {
@@ -32,20 +30,33 @@ QString packagesFor(const QString &desktop)
 
 } // namespace
 
-Failure cancelled() { return { tr("The screenshot was cancelled."), true }; }
+Failure cancelled()
+{
+    return { QCoreApplication::translate("PortalScreenSource", "The screenshot was cancelled."), true };
+}
 
-Failure denied() { return { tr("The desktop does not allow Tessaly to take screenshots.") }; }
+Failure denied()
+{
+    return { QCoreApplication::translate(
+        "PortalScreenSource", "The desktop does not allow Tessaly to take screenshots.") };
+}
 
-Failure missing() { return { tr("This desktop has no portal that takes screenshots.") }; }
+Failure missing()
+{
+    return { QCoreApplication::translate("PortalScreenSource", "This desktop has no portal that takes screenshots.") };
+}
 
 Failure silent(std::chrono::milliseconds patience)
 {
-    return { tr("The desktop portal did not answer within %1 seconds.").arg(patience.count() / 1000.0) };
+    return { QCoreApplication::translate("PortalScreenSource", "The desktop portal did not answer within %1 seconds.")
+                 .arg(patience.count() / 1000.0) };
 }
 
 Failure unusable(const QString &reason)
 {
-    return { tr("The desktop portal gave a picture that cannot be used: %1").arg(reason) };
+    return { QCoreApplication::translate(
+        "PortalScreenSource", "The desktop portal gave a picture that cannot be used: %1")
+                 .arg(reason) };
 }
 
 std::optional<QString> wayOut(Kind kind, const QString &desktop)
@@ -54,16 +65,17 @@ std::optional<QString> wayOut(Kind kind, const QString &desktop)
     case Kind::Cancelled:
         return {};
     case Kind::Denied:
-        return tr(
+        return QCoreApplication::translate("PortalScreenSource",
             "Allow screenshots for Tessaly in the desktop's settings, on the page of the applications. Where there "
             "is no such page, “flatpak permission-remove screenshot screenshot” in a terminal makes the desktop ask "
             "again.");
     case Kind::Missing:
-        return tr("Install xdg-desktop-portal and, for this desktop, %1; then log out and in again.")
+        return QCoreApplication::translate(
+            "PortalScreenSource", "Install xdg-desktop-portal and, for this desktop, %1; then log out and in again.")
             .arg(packagesFor(desktop));
     case Kind::Silent:
     case Kind::Unusable:
-        return tr(
+        return QCoreApplication::translate("PortalScreenSource",
             "Try once more. If it fails again, “systemctl --user restart xdg-desktop-portal” in a terminal starts "
             "the portal anew.");
     }

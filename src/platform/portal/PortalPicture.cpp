@@ -4,6 +4,7 @@
 #include "platform/desktop/SessionBus.h"
 #include "platform/portal/DesktopPicture.h"
 
+#include <QDBusMessage>
 #include <QUuid>
 
 namespace tessaly {
@@ -33,7 +34,7 @@ PortalPicture::PortalPicture(std::chrono::milliseconds patience, Answer answer) 
     m_answer(std::move(answer)),
     m_connection(QUuid::createUuid().toString())
 {
-    ask(PortalRequest::Manner::Quiet);
+    ask(Manner::Quiet);
 }
 
 PortalPicture::~PortalPicture()
@@ -42,15 +43,15 @@ PortalPicture::~PortalPicture()
     QDBusConnection::disconnectFromBus(m_connection);
 }
 
-void PortalPicture::ask(PortalRequest::Manner manner)
+void PortalPicture::ask(Manner manner)
 {
-    const bool quiet = manner == PortalRequest::Manner::Quiet;
+    const bool quiet = manner == Manner::Quiet;
     const auto patience = quiet ? m_patience : dialogPatienceFactor * m_patience;
     const auto onReplied = [this, manner, patience](const PortalRequest::Reply &reply) {
         if (reply.end == PortalRequest::End::Granted)
-            return read(reply.uri);
-        if (reply.end == PortalRequest::End::Refused && manner == PortalRequest::Manner::Quiet)
-            return ask(PortalRequest::Manner::Interactive);
+            return read(reply.results.value(QStringLiteral("uri")).toString());
+        if (reply.end == PortalRequest::End::Refused && manner == Manner::Quiet)
+            return ask(Manner::Interactive);
         finish(reasonFor(reply.end, patience));
     };
     if (!SessionBus::isThere()) {
@@ -60,7 +61,10 @@ void PortalPicture::ask(PortalRequest::Manner manner)
     }
     m_request
         = std::make_unique<PortalRequest>(QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connection));
-    m_request->ask(manner, patience, onReplied);
+    QDBusMessage call = PortalRequest::call("org.freedesktop.portal.Screenshot", "Screenshot");
+    call << QString() // no window of ours is the dialog's parent
+         << m_request->withToken({ { QStringLiteral("interactive"), !quiet } });
+    m_request->ask(call, patience, onReplied);
 }
 
 void PortalPicture::read(const QString &uri)

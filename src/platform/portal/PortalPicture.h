@@ -30,7 +30,11 @@ public:
     ~PortalPicture() override;
 
 private:
-    void ask(PortalRequest::Manner manner);
+    enum class Manner {
+        Quiet, ///< the desktop asks the user at most for the permission
+        Interactive, ///< the user chooses in a dialog of the desktop
+    };
+    void ask(Manner manner);
     void read(const QString &uri);
     void finish(Result<QImage, Reason> picture);
 

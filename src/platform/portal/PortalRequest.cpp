@@ -10,16 +10,13 @@ namespace tessaly {
 
 namespace {
 
-constexpr auto service = "org.freedesktop.portal.Desktop";
-constexpr auto objectPath = "/org/freedesktop/portal/desktop";
-constexpr auto screenshotInterface = "org.freedesktop.portal.Screenshot";
 constexpr auto requestInterface = "org.freedesktop.portal.Request";
 
 /// Where the portal puts the request's object: known before the call, so that no answer is missed.
 QString requestPath(const QDBusConnection &bus, const QString &token)
 {
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
-    return QStringLiteral("%1/request/%2/%3").arg(QLatin1StringView(objectPath), sender, token);
+    return QStringLiteral("%1/request/%2/%3").arg(QLatin1StringView(PortalRequest::objectPath), sender, token);
 }
 
 PortalRequest::End endOf(const QDBusMessage &error)
@@ -40,7 +37,9 @@ PortalRequest::End endOf(const QDBusMessage &error)
 
 } // namespace
 
-PortalRequest::PortalRequest(QDBusConnection bus) : m_bus(std::move(bus))
+PortalRequest::PortalRequest(QDBusConnection bus) :
+    m_bus(std::move(bus)),
+    m_token(QStringLiteral("tessaly%1").arg(QRandomGenerator::global()->generate()))
 {
     m_patience.setSingleShot(true);
     connect(&m_patience, &QTimer::timeout, this, [this] {
@@ -51,19 +50,25 @@ PortalRequest::PortalRequest(QDBusConnection bus) : m_bus(std::move(bus))
 
 PortalRequest::~PortalRequest() { withdraw(); }
 
-void PortalRequest::ask(Manner manner, std::chrono::milliseconds patience, std::function<void(Reply)> then)
+QDBusMessage PortalRequest::call(const char *interface, const char *method)
+{
+    return QDBusMessage::createMethodCall(
+        service, objectPath, QString::fromLatin1(interface), QString::fromLatin1(method));
+}
+
+QVariantMap PortalRequest::withToken(QVariantMap options) const
+{
+    options.insert(QStringLiteral("handle_token"), m_token);
+    return options;
+}
+
+void PortalRequest::ask(const QDBusMessage &call, std::chrono::milliseconds patience, std::function<void(Reply)> then)
 {
     m_then = std::move(then);
     m_patience.start(patience);
-    const QString token = QStringLiteral("tessaly%1").arg(QRandomGenerator::global()->generate());
-    m_path = requestPath(m_bus, token);
+    m_path = requestPath(m_bus, m_token);
     m_bus.connect(
         service, m_path, requestInterface, QStringLiteral("Response"), this, SLOT(onResponse(uint, QVariantMap)));
-    QDBusMessage call
-        = QDBusMessage::createMethodCall(service, objectPath, screenshotInterface, QStringLiteral("Screenshot"));
-    call << QString() // no window of ours is the dialog's parent
-         << QVariantMap { { QStringLiteral("handle_token"), token },
-                { QStringLiteral("interactive"), manner == Manner::Interactive } };
     // The one clock that counts is m_patience, which withdraws the question too.
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, int(2 * patience.count())), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -83,7 +88,7 @@ void PortalRequest::onCallReturned(const QDBusMessage &reply)
 void PortalRequest::onResponse(uint code, const QVariantMap &results)
 {
     constexpr End ends[] = { End::Granted, End::Cancelled };
-    finish({ code < std::size(ends) ? ends[code] : End::Refused, results.value(QStringLiteral("uri")).toString() });
+    finish({ code < std::size(ends) ? ends[code] : End::Refused, results });
 }
 
 void PortalRequest::withdraw()

@@ -12,15 +12,15 @@ class QDBusMessage;
 
 namespace tessaly {
 
-/// One call of org.freedesktop.portal.Screenshot, from the question to its Response. Main thread only.
+/// One question to the desktop portal that it answers by a Response. Main thread only.
 class PortalRequest final : public QObject {
     Q_OBJECT
 
 public:
-    enum class Manner {
-        Quiet, ///< the desktop asks the user at most for the permission
-        Interactive, ///< the user chooses in a dialog of the desktop
-    };
+    /// Where every portal is on the bus.
+    static constexpr auto service = "org.freedesktop.portal.Desktop";
+    static constexpr auto objectPath = "/org/freedesktop/portal/desktop";
+
     enum class End {
         Granted,
         Cancelled, ///< by the user
@@ -30,15 +30,21 @@ public:
     };
     struct Reply {
         End end = End::Silent;
-        QString uri; ///< of the picture, when granted
+        QVariantMap results = {}; ///< when granted
     };
 
     explicit PortalRequest(QDBusConnection bus);
     /// Withdraws a question that is still open.
     ~PortalRequest() override;
 
+    /// A call of a method, without its arguments.
+    static QDBusMessage call(const char *interface, const char *method);
+
+    /// The option of every question by which the answer finds back; to be among those of the call.
+    QVariantMap withToken(QVariantMap options) const;
+
     /// Once. `then` is called from the event loop, and may delete this.
-    void ask(Manner manner, std::chrono::milliseconds patience, std::function<void(Reply)> then);
+    void ask(const QDBusMessage &call, std::chrono::milliseconds patience, std::function<void(Reply)> then);
 
 private Q_SLOTS:
     void onResponse(uint code, const QVariantMap &results);
@@ -49,6 +55,7 @@ private:
     void finish(Reply reply);
 
     QDBusConnection m_bus;
+    QString m_token;
     QString m_path; ///< of the request's object; empty when nothing is open
     QTimer m_patience;
     std::function<void(Reply)> m_then;

@@ -1,54 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/X11EscapeKey.h"
 
-#include "platform/x11/X11Reply.h"
+#include "platform/x11/KeyboardMap.h"
 
 #include <QCoreApplication>
 
 #include <array>
 
 namespace tessaly {
-
-namespace {
-
-constexpr xcb_keysym_t escapeSymbol = 0xff1b;
-constexpr xcb_keysym_t numLockSymbol = 0xff7f;
-
-/// The keys that make a symbol, by their codes.
-QList<xcb_keycode_t> keysOf(xcb_connection_t *xcb, xcb_keysym_t symbol)
-{
-    const xcb_setup_t *setup = xcb_get_setup(xcb);
-    const auto count = uint8_t(setup->max_keycode - setup->min_keycode + 1);
-    const XcbReply<xcb_get_keyboard_mapping_reply_t> mapping(
-        xcb_get_keyboard_mapping_reply(xcb, xcb_get_keyboard_mapping(xcb, setup->min_keycode, count), nullptr));
-    QList<xcb_keycode_t> keys;
-    if (!mapping)
-        return keys;
-    const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
-    for (int key = 0; key < count; ++key) {
-        const xcb_keysym_t *row = symbols + key * mapping->keysyms_per_keycode;
-        if (std::find(row, row + mapping->keysyms_per_keycode, symbol) != row + mapping->keysyms_per_keycode)
-            keys += xcb_keycode_t(setup->min_keycode + key);
-    }
-    return keys;
-}
-
-/// The modifier that stands for Num Lock; 0 when none does.
-uint16_t numLockMask(xcb_connection_t *xcb)
-{
-    const XcbReply<xcb_get_modifier_mapping_reply_t> mapping(
-        xcb_get_modifier_mapping_reply(xcb, xcb_get_modifier_mapping(xcb), nullptr));
-    const QList<xcb_keycode_t> numLock = keysOf(xcb, numLockSymbol);
-    if (!mapping)
-        return 0;
-    const xcb_keycode_t *codes = xcb_get_modifier_mapping_keycodes(mapping.get());
-    for (int place = 0; place < 8 * mapping->keycodes_per_modifier; ++place)
-        if (codes[place] != 0 && numLock.contains(codes[place]))
-            return uint16_t(1U << (place / mapping->keycodes_per_modifier));
-    return 0;
-}
-
-} // namespace
 
 X11EscapeKey::X11EscapeKey(xcb_connection_t *xcb, xcb_window_t root) : m_xcb(xcb), m_root(root) { }
 X11EscapeKey::~X11EscapeKey() { letGo(); }
@@ -64,8 +23,9 @@ void X11EscapeKey::watch(std::function<void()> pressed)
 /// With Caps Lock and Num Lock or without. A refused grab leaves those that were granted.
 void X11EscapeKey::grab()
 {
-    m_grabbed = keysOf(m_xcb, escapeSymbol);
-    const uint16_t numLock = numLockMask(m_xcb);
+    const KeyboardMap keyboard(m_xcb);
+    m_grabbed = keyboard.keysOf(KeyboardMap::escape);
+    const uint16_t numLock = keyboard.modifierOf({ KeyboardMap::numLock });
     const std::array<uint16_t, 4> locks { 0, XCB_MOD_MASK_LOCK, numLock, uint16_t(numLock | XCB_MOD_MASK_LOCK) };
     QList<xcb_void_cookie_t> requests;
     for (const xcb_keycode_t key : m_grabbed)

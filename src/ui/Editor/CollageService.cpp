@@ -14,8 +14,6 @@ namespace {
 /// As many as an alert can show.
 constexpr qsizetype maxToldFailures = 8;
 
-QString translated(const char *text) { return QCoreApplication::translate("CollageService", text); }
-
 struct Made {
     std::optional<RasterImage> collage;
     QStringList failures; ///< a sentence for each file that could not be read, which it names
@@ -45,7 +43,7 @@ QString told(QStringList failures)
         return failures.join(u'\n');
     const auto others = failures.size() - (maxToldFailures - 1);
     failures.resize(maxToldFailures - 1);
-    return failures.join(u'\n') + u'\n' + translated("And %1 others.").arg(others);
+    return failures.join(u'\n') + u'\n' + QCoreApplication::translate("CollageService", "And %1 others.").arg(others);
 }
 
 } // namespace
@@ -58,12 +56,13 @@ void CollageService::createFromPanel(CollageLayout layout)
     const auto result = std::make_shared<Made>();
     const auto make = [result, paths = *paths, layout](
                           const Cancellation &cancellation) { *result = made(paths, layout, cancellation); };
-    if (!m_surroundings.work.run(translated("Joining images…"), make))
+    if (!m_surroundings.work.run(QCoreApplication::translate("CollageService", "Joining images…"), make))
         return;
     if (!result->failures.isEmpty())
-        m_surroundings.alerts.warn(translated("Some images couldn't be opened"), told(result->failures));
+        m_surroundings.alerts.warn(
+            QCoreApplication::translate("CollageService", "Some images couldn't be opened"), told(result->failures));
     if (result->collage)
-        m_surroundings.open(std::move(*result->collage), translated("Collage"));
+        m_surroundings.open(std::move(*result->collage), QCoreApplication::translate("CollageService", "Collage"));
 }
 
 } // namespace tessaly

@@ -17,6 +17,7 @@ class ExportService;
 class FrameSettings;
 class LongWork;
 class OpenPanels;
+class PaletteSupply;
 class RecentDocuments;
 class SavedStyles;
 class Settings;
@@ -48,6 +49,7 @@ struct EditorServices {
     OpenPanels &openPanels;
     CommandTarget *captures = nullptr; ///< the commands that capture; without it there are none
     std::function<void(const RasterImage &)> pin = {}; ///< shows a picture above all windows; nothing can be without
+    PaletteSupply *palette = nullptr; ///< of the command palette of all windows
 };
 
 } // namespace tessaly

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/EditorWindow.h"
 
+#include "core/Desktop/DroppedContent.h"
 #include "core/Document/DocumentActions.h"
 #include "core/Document/RecentDocuments.h"
 #include "core/Export/DragFile.h"
@@ -13,13 +14,13 @@
 #include "ui/Editor/Options/OptionsBar.h"
 #include "ui/Editor/WindowCommands.h"
 #include "ui/Menu/CommandActions.h"
+#include "ui/Menu/CommandPalette.h"
 #include "ui/Menu/MenuBar.h"
 #include "ui/Menu/ShortcutsSheet.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QPointer>
 #include <QScreen>
 #include <QShortcut>
 
@@ -92,14 +93,6 @@ CommandHooks EditorWindow::Implementation::hooks()
         if (EditorView *editor = tabs->current())
             editor->chooseTool(tool);
     };
-    hooks.openRecent.choices = [this] {
-        QList<MenuChoice> choices;
-        for (const QString &path : services.recentDocuments.paths())
-            choices += { services.recentDocuments.title(path), path };
-        return choices;
-    };
-    hooks.openRecent.choose = [this](const QString &path) { Q_EMIT window.openRequested(path); };
-    hooks.openRecent.clear = [this] { services.recentDocuments.clear(); };
     hooks.exportAs.choices = [] {
         QList<MenuChoice> choices;
         for (const auto &row : enumNames<ExportFormat>)
@@ -118,11 +111,8 @@ void EditorWindow::Implementation::addOwnCommands()
 {
     commands.add(CommandId::ToggleOptionsBar, [this] { toggle(SettingKeys::showOptionsBar); });
     commands.add(CommandId::ToggleLiveText, [this] { toggle(SettingKeys::liveTextEnabled); });
-    commands.add(CommandId::KeyboardShortcuts, [this] {
-        auto *sheet = new ShortcutsSheet(&window);
-        sheet->setAttribute(Qt::WA_DeleteOnClose);
-        sheet->open();
-    });
+    commands.add(CommandId::KeyboardShortcuts, [this] { ShortcutsSheet::showAbove(window); });
+    commands.add(CommandId::CommandPalette, [this] { CommandPalette::open(window, actions, services.palette); });
     commands.add(CommandId::CustomizeToolbar, [this] { customizeToolBar(); });
     commands.add(CommandId::CloseTab, [this] {
         if (EditorView *editor = tabs->current())
@@ -320,8 +310,7 @@ void EditorWindow::changeEvent(QEvent *event)
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (std::ranges::any_of(urls, &QUrl::isLocalFile))
+    if (!DroppedContent::offered(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
@@ -329,13 +318,8 @@ void EditorWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
     // Afterwards: the program that the files come from waits until this returns, and opening may ask the user.
-    const auto open = [window = QPointer(this), urls = event->mimeData()->urls()] {
-        for (const QUrl &url : urls) {
-            if (window && url.isLocalFile())
-                Q_EMIT window->openRequested(url.toLocalFile());
-        }
-    };
-    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
+    const auto tell = [this, content = DroppedContent::taken(*event->mimeData())] { Q_EMIT dropped(content); };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 } // namespace tessaly

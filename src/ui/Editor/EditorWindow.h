@@ -8,6 +8,8 @@
 
 namespace tessaly {
 
+struct DroppedContent;
+
 /// One window with the editors of one or more captures as tabs, its menus, tool bar and status bar.
 class EditorWindow : public QMainWindow {
     Q_OBJECT
@@ -34,8 +36,10 @@ public:
 Q_SIGNALS:
     /// A tab, or the window with all of them, shall close: ask first, then removeEditor().
     void closeRequested(const QList<EditorView *> &editors);
-    /// A file was dropped beside the canvas or chosen from the recent ones.
+    /// A file was chosen from the recent ones.
     void openRequested(const QString &path);
+    /// Something was dropped that the canvas did not take.
+    void dropped(const DroppedContent &content);
 
 protected:
     void closeEvent(QCloseEvent *event) override;

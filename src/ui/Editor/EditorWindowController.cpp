@@ -4,6 +4,7 @@
 #include "core/Base/LongWork.h"
 #include "core/Desktop/Alerts.h"
 #include "core/Desktop/Clipboard.h"
+#include "core/Desktop/DroppedContent.h"
 #include "core/Desktop/Toasts.h"
 #include "core/Document/RecentDocuments.h"
 #include "core/Frame/FrameSettings.h"
@@ -125,6 +126,7 @@ EditorWindow &EditorWindowController::makeWindow()
             close(views);
     });
     connect(window, &EditorWindow::openRequested, this, &EditorWindowController::openFile);
+    connect(window, &EditorWindow::dropped, this, &EditorWindowController::openDropped);
     return *window;
 }
 
@@ -254,6 +256,22 @@ void EditorWindowController::activateOrOpenBlank()
         Q_EMIT startWindowRequested();
 }
 
+void EditorWindowController::openDropped(const DroppedContent &content)
+{
+    for (const QString &path : content.paths)
+        openFile(path);
+    if (content.hasPicture) {
+        const QString title = tr("Dropped picture");
+        auto picture = readImage(content.picture, title);
+        if (picture)
+            openCapture(std::move(*picture), title);
+        else
+            m_services.alerts.warn(tr("Couldn't open the picture"), picture.failure().message);
+    }
+    if (const QString refusal = content.refusal(); !refusal.isEmpty())
+        m_services.alerts.warn(tr("A link cannot be opened"), refusal);
+}
+
 void EditorWindowController::openFromClipboard()
 {
     if (auto image = pastedImage(m_services.clipboard))
@@ -287,8 +305,12 @@ AnnotationStore *EditorWindowController::storeOf(const EditorWindow &window) con
 void EditorWindowController::bringToFront(const AnnotationStore &store)
 {
     const auto slot = std::ranges::find(m_slots, &store, &WindowSlot::store);
-    if (slot != m_slots.end())
-        bringToFront(*slot);
+    if (slot == m_slots.end())
+        return;
+    bringToFront(*slot);
+    // The window system tells only later that it is active. A question that is shown until then lies over the window
+    // that was, and would be taken to be about that one.
+    QApplication::setActiveWindow(slot->window);
 }
 
 void EditorWindowController::bringToFront(const WindowSlot &slot) { slot.window->activate(slot.view); }
@@ -360,6 +382,7 @@ bool EditorWindowController::knows(CommandId command) const
     case CommandId::NewBlankCanvas:
     case CommandId::NewFromClipboard:
     case CommandId::Open:
+    case CommandId::OpenRecent:
     case CommandId::NewTab:
     case CommandId::StartWindow:
     case CommandId::Quit:
@@ -385,13 +408,26 @@ bool EditorWindowController::canPerform(CommandId command) const
 
 QList<MenuChoice> EditorWindowController::choices(CommandId command) const
 {
-    return m_services.captures ? m_services.captures->choices(command) : QList<MenuChoice>();
+    if (command != CommandId::OpenRecent)
+        return m_services.captures ? m_services.captures->choices(command) : QList<MenuChoice>();
+    QList<MenuChoice> choices;
+    for (const QString &path : m_services.recentDocuments.paths())
+        choices += { m_services.recentDocuments.title(path), path };
+    return choices;
 }
 
 void EditorWindowController::choose(CommandId command, const QString &value)
 {
-    if (m_services.captures)
+    if (command == CommandId::OpenRecent)
+        openFile(value);
+    else if (m_services.captures)
         m_services.captures->choose(command, value);
+}
+
+void EditorWindowController::clear(CommandId command)
+{
+    if (canClear(command))
+        m_services.recentDocuments.clear();
 }
 
 void EditorWindowController::perform(CommandId command)

@@ -14,6 +14,7 @@
 
 namespace tessaly {
 
+struct DroppedContent;
 class EditorView;
 class EditorWindow;
 class EditorZoom;
@@ -57,6 +58,8 @@ public:
     void openBlank(EditorWindow *tabOf = nullptr);
     /// Brings the editor that was opened last to the front; without one the start window is asked for.
     void activateOrOpenBlank();
+    /// Opens what was dropped on a window, each file in an editor of its own; an alert tells what is not opened.
+    void openDropped(const DroppedContent &content);
     /// Opens the clipboard's image as a new capture; a notice says when there is none.
     void openFromClipboard();
     void chooseFiles();
@@ -75,6 +78,8 @@ public:
     void perform(CommandId command) override;
     QList<MenuChoice> choices(CommandId command) const override;
     void choose(CommandId command, const QString &value) override;
+    bool canClear(CommandId command) const override { return command == CommandId::OpenRecent; }
+    void clear(CommandId command) override;
 
 Q_SIGNALS:
     void quitRequested();

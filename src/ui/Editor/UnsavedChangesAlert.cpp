@@ -10,18 +10,19 @@
 
 namespace tessaly::UnsavedChangesAlert {
 
-static QString translated(const char *text) { return QCoreApplication::translate("UnsavedChangesAlert", text); }
-
 Answer run(AnnotationStore &store, const Services &services)
 {
     if (!store.hasUnsavedChanges() || services.history.keepNow(store, services.work))
         return Answer::Close;
     enum Button { Save, Cancel, DontSave };
-    const int button = services.alerts.ask({ .message = translated("Do you want to save your annotations?"),
-        .informativeText = translated("Your changes will be lost if you don't save them."),
-        .answers
-        = { { translated("Save…") }, { translated("Cancel") }, { translated("Don't Save"), QStringLiteral("Ctrl+D") } },
-        .escapeAnswer = Cancel });
+    const int button = services.alerts.ask(
+        { .message = QCoreApplication::translate("UnsavedChangesAlert", "Do you want to save your annotations?"),
+            .informativeText
+            = QCoreApplication::translate("UnsavedChangesAlert", "Your changes will be lost if you don't save them."),
+            .answers = { { QCoreApplication::translate("UnsavedChangesAlert", "Save…") },
+                { QCoreApplication::translate("UnsavedChangesAlert", "Cancel") },
+                { QCoreApplication::translate("UnsavedChangesAlert", "Don't Save"), QStringLiteral("Ctrl+D") } },
+            .escapeAnswer = Cancel });
     switch (button) {
     case Save:
         return services.documents.save(store) ? Answer::Close : Answer::Cancel;

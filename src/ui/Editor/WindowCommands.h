@@ -24,6 +24,8 @@ public:
     void perform(CommandId command) override;
     QList<MenuChoice> choices(CommandId command) const override { return m_program.choices(command); }
     void choose(CommandId command, const QString &value) override { m_program.choose(command, value); }
+    bool canClear(CommandId command) const override { return m_program.canClear(command); }
+    void clear(CommandId command) override { m_program.clear(command); }
 
 private:
     CommandTarget *targetOf(CommandId command) const;

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QFileSystemModel>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -15,8 +16,6 @@ namespace tessaly {
 
 namespace {
 
-QString translated(const char *text) { return QCoreApplication::translate("DocumentFileDialog", text); }
-
 QString pathOf(const QModelIndex &index) { return index.data(QFileSystemModel::FilePathRole).toString(); }
 
 bool isDocumentFolder(const QString &path) { return QFileInfo(path).isDir() && TessalyDocument::isDocument(path); }
@@ -24,7 +23,8 @@ bool isDocumentFolder(const QString &path) { return QFileInfo(path).isDir() && T
 QString openFilter()
 {
     const QStringList patterns = QStringList(QStringLiteral("*.tessaly")) + FileDialogParts::imagePatterns();
-    return translated("Images and Tessaly documents") + QStringLiteral(" (%1)").arg(patterns.join(u' '));
+    return QCoreApplication::translate("DocumentFileDialog", "Images and Tessaly documents")
+        + QStringLiteral(" (%1)").arg(patterns.join(u' '));
 }
 
 } // namespace
@@ -35,20 +35,26 @@ DocumentFileDialog::DocumentFileDialog(Purpose purpose, QWidget *parent) : QFile
     setOption(DontUseNativeDialog);
     setOption(HideNameFilterDetails); // which do not fit
     FileDialogParts::readNamesOnly(*this);
-    setWindowTitle(opens ? translated("Open") : translated("Save Document"));
+    setWindowTitle(opens ? QCoreApplication::translate("DocumentFileDialog", "Open")
+                         : QCoreApplication::translate("DocumentFileDialog", "Save Document"));
     setAcceptMode(opens ? AcceptOpen : AcceptSave);
     setFileMode(opens ? ExistingFiles : AnyFile);
     if (opens)
-        setNameFilters({ openFilter(), translated("All files") + QStringLiteral(" (*)") });
+        setNameFilters(
+            { openFilter(), QCoreApplication::translate("DocumentFileDialog", "All files") + QStringLiteral(" (*)") });
     else
         FileDialogParts::hideFileTypes(*this);
     FileDialogParts::makeRoom(*this);
+    if (opens)
+        FileDialogParts::addPreview(*this);
     for (QAbstractItemView *view : { FileDialogParts::listView(*this), FileDialogParts::detailView(*this) }) {
         view->installEventFilter(this);
         view->viewport()->installEventFilter(this);
     }
     connect(FileDialogParts::listView(*this)->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &DocumentFileDialog::nameSelected);
+    if (!opens)
+        saveButton()->installEventFilter(this);
 }
 
 void DocumentFileDialog::accept()
@@ -100,15 +106,35 @@ void DocumentFileDialog::choose(const QStringList &paths)
     QDialog::accept(); // past the rules for plain folders
 }
 
-/// Shows the name of a selected document, which the dialog leaves out as that of a folder. While a name is typed the
+/// Shows the names of selected documents, which the dialog leaves out as those of folders. While a name is typed the
 /// dialog selects what comes closest to it; that must not change the name.
 void DocumentFileDialog::nameSelected()
 {
     if (FileDialogParts::nameField(*this)->hasFocus())
         return;
     const QModelIndexList rows = FileDialogParts::listView(*this)->selectionModel()->selectedRows();
-    if (rows.size() == 1 && isDocumentFolder(pathOf(rows.first())))
-        FileDialogParts::nameField(*this)->setText(rows.first().data().toString());
+    const auto isFolder = [](const QModelIndex &row) { return QFileInfo(pathOf(row)).isDir(); };
+    const auto isDocument = [](const QModelIndex &row) { return isDocumentFolder(pathOf(row)); };
+    if (std::ranges::none_of(rows, isDocument)
+        || std::ranges::any_of(rows, [&](const auto &row) { return isFolder(row) && !isDocument(row); }))
+        return;
+    QStringList names;
+    for (const QModelIndex &row : rows)
+        names += rows.size() == 1 ? row.data().toString() : QStringLiteral("\"%1\"").arg(row.data().toString());
+    FileDialogParts::nameField(*this)->setText(names.join(u' '));
+}
+
+QPushButton *DocumentFileDialog::saveButton() const
+{
+    return findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save);
+}
+
+/// The dialog offers to open what it takes for a folder, whenever it looks at it anew; but a document is replaced.
+void DocumentFileDialog::labelSaving()
+{
+    const QString label = QCoreApplication::translate("QFileDialog", "&Save");
+    if (saveButton()->text() != label && isDocumentFolder(selectedFiles().value(0)))
+        saveButton()->setText(label);
 }
 
 bool DocumentFileDialog::chooseActivated(const QModelIndex &index)
@@ -131,7 +157,8 @@ bool DocumentFileDialog::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (view && (key == Qt::Key_Return || key == Qt::Key_Enter) && chooseActivated(view->currentIndex()))
             return true;
-    }
+    } else if (event->type() == QEvent::Paint && qobject_cast<QPushButton *>(watched))
+        labelSaving();
     return QFileDialog::eventFilter(watched, event);
 }
 

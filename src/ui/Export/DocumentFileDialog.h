@@ -3,6 +3,8 @@
 
 #include <QFileDialog>
 
+class QPushButton;
+
 namespace tessaly {
 
 /// A file dialog in which a document, which is a folder, is chosen like a file and not entered.
@@ -24,6 +26,8 @@ private:
     void acceptSaving();
     void choose(const QStringList &paths);
     void nameSelected();
+    QPushButton *saveButton() const;
+    void labelSaving();
     bool chooseActivated(const QModelIndex &index);
 
     Purpose m_purpose;

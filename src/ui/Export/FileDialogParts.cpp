@@ -2,6 +2,7 @@
 #include "ui/Export/FileDialogParts.h"
 
 #include "ui/Export/FileKinds.h"
+#include "ui/Export/FilePreview.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QScreen>
+#include <QSplitter>
 #include <QTreeView>
 
 namespace tessaly::FileDialogParts {
@@ -42,12 +44,24 @@ void makeRoom(QFileDialog &dialog)
     const int letter = dialog.fontMetrics().averageCharWidth();
     dialog.resize(QSize(letter * 120, letter * 84).boundedTo(dialog.screen()->availableSize()));
     auto *header = qobject_cast<QTreeView *>(detailView(dialog))->header();
-    constexpr std::array columns { 42, 11, 14, 24 }; // name, size, type, date; in letters
+    constexpr std::array columns { 38, 11, 19, 24 }; // name, size, type, date; in letters
     for (int column = 0; column < static_cast<int>(columns.size()); ++column)
         header->resizeSection(column, letter * columns.at(static_cast<size_t>(column)));
 }
 
 void readNamesOnly(QFileDialog &dialog) { dialog.setIconProvider(new FileKinds(&dialog)); }
+
+void addPreview(QFileDialog &dialog)
+{
+    auto *parts = dialog.findChild<QSplitter *>(QStringLiteral("splitter"));
+    Q_ASSERT(parts);
+    auto *preview = new FilePreview;
+    parts->addWidget(preview);
+    parts->setCollapsible(parts->indexOf(preview), true);
+    const int letter = dialog.fontMetrics().averageCharWidth();
+    dialog.resize(QSize(letter * 150, dialog.height()).boundedTo(dialog.screen()->availableSize()));
+    preview->follow(*listView(dialog)->selectionModel());
+}
 
 void addAccessory(QFileDialog &dialog, QWidget &accessory)
 {

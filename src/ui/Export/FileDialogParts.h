@@ -23,6 +23,9 @@ void makeRoom(QFileDialog &dialog);
 /// Keeps the dialog from reading the files that it lists.
 void readNamesOnly(QFileDialog &dialog);
 
+/// Shows what is selected beside the list of files.
+void addPreview(QFileDialog &dialog);
+
 /// Puts a widget below the name in place of the choice of file types.
 void addAccessory(QFileDialog &dialog, QWidget &accessory);
 void hideFileTypes(QFileDialog &dialog);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFileIconProvider>
+#include <QIcon>
 #include <QObject>
 
 namespace tessaly {
@@ -11,11 +12,14 @@ namespace tessaly {
 class FileKinds final : public QObject, public QFileIconProvider {
 public:
     /// The parent is the dialog: its model, which asks from a thread of its own, is an elder child and goes first.
-    using QObject::QObject;
+    explicit FileKinds(QObject *parent);
 
     QIcon icon(const QFileInfo &info) const override;
     QString type(const QFileInfo &info) const override;
     using QFileIconProvider::icon;
+
+private:
+    const QIcon m_document; ///< made on the main thread
 };
 
 } // namespace tessaly

@@ -12,8 +12,6 @@ namespace tessaly {
 
 namespace {
 
-QString translated(const char *text) { return QCoreApplication::translate("SaveImageDialog", text); }
-
 QString filterOf(ExportFormat format)
 {
     QString patterns = QStringLiteral("*.") + extension(format);
@@ -27,7 +25,7 @@ QString filterOf(ExportFormat format)
 } // namespace
 
 SaveImageDialog::SaveImageDialog(const SavePanels::ImageRequest &request, Settings &settings, QWidget *parent) :
-    QFileDialog(parent, translated("Save Image"))
+    QFileDialog(parent, QCoreApplication::translate("SaveImageDialog", "Save Image"))
 {
     setOption(DontUseNativeDialog);
     FileDialogParts::readNamesOnly(*this);
@@ -64,7 +62,7 @@ void SaveImageDialog::follow(ExportFormat format)
     }
     QString base = name.left(name.lastIndexOf(u'.'));
     if (base.isEmpty())
-        base = translated("Screenshot");
+        base = QCoreApplication::translate("SaveImageDialog", "Screenshot");
     m_name->setText(base + u'.' + extension(format));
 }
 

@@ -22,13 +22,12 @@ constexpr int ticksPerUnit = 20;
 constexpr int firstTick = 6;
 constexpr int lastTick = 20;
 
-QString translated(const char *text) { return QCoreApplication::translate("SaveOptionsAccessory", text); }
-
 QString qualityTip(ExportFormat format)
 {
-    return format == ExportFormat::Webp
-        ? translated("Lower values produce smaller files but more compression artefacts. 100% is lossless.")
-        : translated("Lower values produce smaller files but more compression artefacts.");
+    return format == ExportFormat::Webp ? QCoreApplication::translate("SaveOptionsAccessory",
+               "Lower values produce smaller files but more compression artefacts. 100% is lossless.")
+                                        : QCoreApplication::translate("SaveOptionsAccessory",
+                                            "Lower values produce smaller files but more compression artefacts.");
 }
 
 } // namespace
@@ -42,11 +41,11 @@ SaveOptionsAccessory::SaveOptionsAccessory(
     m_offersDocument(offersDocument),
     m_grid(new QGridLayout(this)),
     m_formats(new QComboBox(this)),
-    m_qualityLabel(new QLabel(translated("Quality") + u':', this)),
+    m_qualityLabel(new QLabel(QCoreApplication::translate("SaveOptionsAccessory", "Quality") + u':', this)),
     m_qualityRow(new QWidget(this)),
     m_slider(new QSlider(Qt::Horizontal, m_qualityRow)),
     m_percent(new QLabel(m_qualityRow)),
-    m_document(new QCheckBox(translated("Also save Tessaly document"), this))
+    m_document(new QCheckBox(QCoreApplication::translate("SaveOptionsAccessory", "Also save Tessaly document"), this))
 {
     m_grid->setContentsMargins(12, 20, 12, 20);
     m_grid->setHorizontalSpacing(8);
@@ -64,13 +63,13 @@ void SaveOptionsAccessory::addFormatRow()
         m_formats->addItem(label(format), QString(name));
     m_formats->setCurrentIndex(std::max(m_formats->findData(QString(rawValue(m_format))), 0));
     m_formats->setObjectName(QStringLiteral("format"));
-    m_formats->setAccessibleName(translated("Format"));
-    m_formats->setToolTip(translated("The kind of file to write"));
+    m_formats->setAccessibleName(QCoreApplication::translate("SaveOptionsAccessory", "Format"));
+    m_formats->setToolTip(QCoreApplication::translate("SaveOptionsAccessory", "The kind of file to write"));
     connect(m_formats, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (const auto chosen = enumFromRaw<ExportFormat>(m_formats->itemData(index).toString()))
             setFormat(*chosen);
     });
-    auto *label = new QLabel(translated("Format") + u':', this);
+    auto *label = new QLabel(QCoreApplication::translate("SaveOptionsAccessory", "Format") + u':', this);
     label->setBuddy(m_formats);
     m_grid->addWidget(label, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(m_formats, 0, 1, Qt::AlignLeft);
@@ -79,7 +78,7 @@ void SaveOptionsAccessory::addFormatRow()
 void SaveOptionsAccessory::addQualityRow()
 {
     m_slider->setObjectName(QStringLiteral("quality"));
-    m_slider->setAccessibleName(translated("Quality"));
+    m_slider->setAccessibleName(QCoreApplication::translate("SaveOptionsAccessory", "Quality"));
     m_slider->setRange(firstTick, lastTick);
     m_slider->setTickPosition(QSlider::TicksBelow);
     m_slider->setTickInterval(1);
@@ -104,9 +103,9 @@ void SaveOptionsAccessory::addQualityRow()
 void SaveOptionsAccessory::addDocumentRow()
 {
     m_document->setObjectName(QStringLiteral("document"));
-    m_document->setToolTip(
-        translated("Saves an .tessaly file next to the image, so you can reopen it later and keep editing "
-                   "the annotations."));
+    m_document->setToolTip(QCoreApplication::translate("SaveOptionsAccessory",
+        "Saves an .tessaly file next to the image, so you can reopen it later and keep editing "
+        "the annotations."));
     m_document->setChecked(m_settings.value(SettingKeys::alsoSaveTessalyDocument));
     m_document->setVisible(m_offersDocument);
     connect(m_document, &QCheckBox::toggled, this, [this](bool on) {

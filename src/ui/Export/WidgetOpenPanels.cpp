@@ -8,19 +8,19 @@
 
 namespace tessaly {
 
-static QString translated(const char *text) { return QCoreApplication::translate("WidgetOpenPanels", text); }
-
 std::optional<QStringList> WidgetOpenPanels::chooseImages()
 {
-    QFileDialog dialog(QApplication::activeWindow(), translated("Open Images"));
+    QFileDialog dialog(QApplication::activeWindow(), QCoreApplication::translate("WidgetOpenPanels", "Open Images"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // which do not fit
     FileDialogParts::readNamesOnly(dialog);
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    const QString images
-        = translated("Images") + QStringLiteral(" (%1)").arg(FileDialogParts::imagePatterns().join(u' '));
-    dialog.setNameFilters({ images, translated("All files") + QStringLiteral(" (*)") });
+    const QString images = QCoreApplication::translate("WidgetOpenPanels", "Images")
+        + QStringLiteral(" (%1)").arg(FileDialogParts::imagePatterns().join(u' '));
+    dialog.setNameFilters(
+        { images, QCoreApplication::translate("WidgetOpenPanels", "All files") + QStringLiteral(" (*)") });
     FileDialogParts::makeRoom(dialog);
+    FileDialogParts::addPreview(dialog);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFiles()) : std::nullopt;
 }
 

@@ -29,8 +29,10 @@ CommandActions::CommandActions(QWidget *window, CommandHooks hooks) :
     m_window(window),
     m_hooks(std::move(hooks))
 {
-    if (!m_hooks.fullScreenOn.choices)
-        m_hooks.fullScreenOn = choicesOfTarget(CommandId::FullScreenOn);
+    for (const CommandId command : { CommandId::OpenRecent, CommandId::FullScreenOn, CommandId::CaptureTimer })
+        addChoices(command);
+    if (m_hooks.exportAs.choices)
+        m_choices[CommandId::ExportAs] = m_hooks.exportAs;
     for (const CommandRow &row : commandTable())
         addCommand(row);
     for (const ToolRow &row : toolTable())
@@ -44,18 +46,31 @@ CommandActions::CommandActions(QWidget *window, CommandHooks hooks) :
 
 CommandActions::~CommandActions() = default;
 
-ChoiceMenu CommandActions::choicesOfTarget(CommandId command) const
+void CommandActions::addChoices(CommandId command)
 {
-    return { .choices =
-                 [this, command] {
-                     const CommandTarget *target = m_hooks.target();
-                     return target ? target->choices(command) : QList<MenuChoice>();
-                 },
-        .choose =
-            [this, command](const QString &value) {
-                if (CommandTarget *target = m_hooks.target())
-                    target->choose(command, value);
-            } };
+    ChoiceMenu &menu = m_choices[command];
+    menu.choices = [this, command] {
+        const CommandTarget *target = m_hooks.target();
+        return target ? target->choices(command) : QList<MenuChoice>();
+    };
+    menu.choose = [this, command](const QString &value) {
+        if (CommandTarget *target = m_hooks.target())
+            target->choose(command, value);
+    };
+    menu.canClear = [this, command] {
+        const CommandTarget *target = m_hooks.target();
+        return target && target->canClear(command);
+    };
+    menu.clear = [this, command] {
+        if (CommandTarget *target = m_hooks.target())
+            target->clear(command);
+    };
+}
+
+const ChoiceMenu *CommandActions::choiceMenu(CommandId command) const
+{
+    const auto found = m_choices.find(command);
+    return found == m_choices.end() ? nullptr : &found->second;
 }
 
 void CommandActions::addCommand(const CommandRow &row)

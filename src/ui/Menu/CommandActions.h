@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -16,10 +17,12 @@ class QWidget;
 
 namespace tessaly {
 
+/// A submenu whose rows are found out when it opens.
 struct ChoiceMenu {
     std::function<QList<MenuChoice>()> choices = {};
     std::function<void(const QString &value)> choose = {};
-    std::function<void()> clear = {}; ///< with it, a separator and "Clear Menu" end the list
+    std::function<bool()> canClear = {}; ///< then a separator and "Clear Menu" end the list
+    std::function<void()> clear = {};
 };
 
 /// What the actions of a window ask. A function that is not given is answered as noted.
@@ -29,9 +32,7 @@ struct CommandHooks {
     std::function<bool(CommandId)> isOffered = {}; ///< whether this desktop has it at all; everything without
     std::function<std::optional<Tool>()> currentTool = {}; ///< empty while no editor is there; never without
     std::function<void(Tool)> chooseTool = {};
-    ChoiceMenu openRecent = {};
     ChoiceMenu exportAs = {};
-    ChoiceMenu fullScreenOn = {}; ///< of the target, without
 };
 
 /// The QActions of one window: one for each command and each tool, shared by its menus and tool bars, so that state,
@@ -46,6 +47,8 @@ public:
 
     QAction *action(CommandId command) const;
     QAction *toolAction(Tool tool) const;
+    /// The rows of a command that is a submenu: of the target, but for those that the hooks give. Null for the others.
+    const ChoiceMenu *choiceMenu(CommandId command) const;
     const CommandHooks &hooks() const { return m_hooks; }
 
     /// Asks again what can be done, what is on and which tool is active.
@@ -55,12 +58,13 @@ private:
     void addCommand(const CommandRow &row);
     void addTool(const ToolRow &row);
     void perform(CommandId command);
-    ChoiceMenu choicesOfTarget(CommandId command) const;
+    void addChoices(CommandId command);
 
     QWidget *m_window;
     CommandHooks m_hooks;
     std::vector<QAction *> m_commands;
     std::vector<QAction *> m_tools;
+    std::map<CommandId, ChoiceMenu> m_choices;
 };
 
 } // namespace tessaly

@@ -27,6 +27,9 @@ public:
     /// The rows of a command that is a submenu, and choosing one of them. Of the others there are none.
     virtual QList<MenuChoice> choices(CommandId) const { return {}; }
     virtual void choose(CommandId, const QString &) { }
+    /// Whether the list of rows is one that the user may empty, and emptying it.
+    virtual bool canClear(CommandId) const { return false; }
+    virtual void clear(CommandId) { }
 };
 
 } // namespace tessaly

@@ -26,6 +26,9 @@ constexpr auto rows = std::to_array<CommandRow>({
     { SaveAsDocument, QT_TRANSLATE_NOOP("Commands", "Save as Tessaly Document…"), "Ctrl+Shift+S", Menu::File, 1, "" },
     { ExportAs, QT_TRANSLATE_NOOP("Commands", "Export As…"), "", Menu::File, 1, "export" },
 
+    { Settings, QT_TRANSLATE_NOOP("Commands", "Settings…"), "Ctrl+,", Menu::Application, 0, "" },
+    { Quit, QT_TRANSLATE_NOOP("Commands", "Quit Tessaly"), "Ctrl+Q", Menu::Application, 1, "" },
+
     { Undo, QT_TRANSLATE_NOOP("Commands", "Undo"), "Ctrl+Z", Menu::Edit, 0, "undo" },
     { Redo, QT_TRANSLATE_NOOP("Commands", "Redo"), "Ctrl+Shift+Z; Ctrl+Y", Menu::Edit, 0, "redo" },
     { Cut, QT_TRANSLATE_NOOP("Commands", "Cut"), "Ctrl+X", Menu::Edit, 1, "cut" },
@@ -109,8 +112,16 @@ constexpr auto rows = std::to_array<CommandRow>({
 
     { StartWindow, QT_TRANSLATE_NOOP("Commands", "Start Window"), "Ctrl+Shift+1", Menu::Window, 0, "" },
 
+    { Help, QT_TRANSLATE_NOOP("Commands", "Tessaly Help"), "Ctrl+?; F1", Menu::Help, 0, "questionmark" },
     { KeyboardShortcuts, QT_TRANSLATE_NOOP("Commands", "Keyboard Shortcuts"), "", Menu::Help, 0, "keyboard" },
-    { Quit, QT_TRANSLATE_NOOP("Commands", "Quit Tessaly"), "Ctrl+Q", Menu::Application, 0, "" },
+    { CommandPalette, QT_TRANSLATE_NOOP("Commands", "Command Palette…"), "Ctrl+Shift+P", Menu::Help, 0, "search" },
+    { WelcomeGuide, QT_TRANSLATE_NOOP("Commands", "Welcome Guide"), "", Menu::Help, 1, "" },
+    { WhatsNew, QT_TRANSLATE_NOOP("Commands", "What’s New in Tessaly"), "", Menu::Help, 1, "" },
+    { About, QT_TRANSLATE_NOOP("Commands", "About Tessaly"), "", Menu::Help, 2, "" },
+
+    { OpenTessaly, QT_TRANSLATE_NOOP("Commands", "Open Tessaly"), "", Menu::Tray, 0, "" },
+    { OpenLastCapture, QT_TRANSLATE_NOOP("Commands", "Open Last Capture"), "", Menu::Tray, 0, "" },
+    { CaptureTimer, QT_TRANSLATE_NOOP("Commands", "Capture Timer"), "", Menu::Tray, 0, "" },
 });
 
 consteval bool inOrder()

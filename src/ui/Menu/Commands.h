@@ -21,6 +21,8 @@ enum class CommandId {
     Save,
     SaveAsDocument,
     ExportAs,
+    Settings,
+    Quit,
     Undo,
     Redo,
     Cut,
@@ -74,13 +76,20 @@ enum class CommandId {
     NewCollageSideBySide,
     NewCollageStacked,
     StartWindow,
+    Help,
     KeyboardShortcuts,
-    Quit,
+    CommandPalette,
+    WelcomeGuide,
+    WhatsNew,
+    About,
+    OpenTessaly,
+    OpenLastCapture,
+    CaptureTimer,
 };
 
 /// The menus, in their order, with the groups that separators divide. The commands of Application stand at the end of
-/// the File menu.
-enum class CommandMenu { Application, File, Edit, View, Tools, Image, Capture, Window, Help };
+/// the File menu; those of Tray in the menu of the tray only, which has many of the others too.
+enum class CommandMenu { File, Application, Edit, View, Tools, Image, Capture, Window, Help, Tray };
 
 /// Who listens for the key of a command.
 enum class KeyScope {

@@ -44,21 +44,7 @@ KeyCaps::KeyCaps(const QStringList &keys, QWidget *parent) : QWidget(parent), m_
     setAccessibleName(keys.join(u' '));
 }
 
-QSize KeyCaps::capSize(const QString &key) const
-{
-    const int height = fontMetrics().height() + 4;
-    return { std::max(fontMetrics().horizontalAdvance(key) + 2 * padding, height), height };
-}
-
-QSize KeyCaps::sizeHint() const
-{
-    QSize size(0, 0);
-    for (const QString &key : m_keys) {
-        const QSize cap = capSize(key);
-        size = { size.width() + cap.width() + (size.isEmpty() ? 0 : gap), cap.height() + rim };
-    }
-    return size;
-}
+QSize KeyCaps::sizeHint() const { return KeyCapsPainting::size(m_keys, fontMetrics()); }
 
 void KeyCaps::changeEvent(QEvent *event)
 {
@@ -70,19 +56,42 @@ void KeyCaps::changeEvent(QEvent *event)
 void KeyCaps::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    KeyCapsPainting::draw(painter, {}, m_keys, palette());
+}
+
+static QSize capSize(const QString &key, const QFontMetrics &metrics)
+{
+    const int height = metrics.height() + 4;
+    return { std::max(metrics.horizontalAdvance(key) + 2 * padding, height), height };
+}
+
+QSize KeyCapsPainting::size(const QStringList &keys, const QFontMetrics &metrics)
+{
+    QSize size(0, 0);
+    for (const QString &key : keys) {
+        const QSize cap = capSize(key, metrics);
+        size = { size.width() + cap.width() + (size.isEmpty() ? 0 : gap), cap.height() + rim };
+    }
+    return size;
+}
+
+void KeyCapsPainting::draw(QPainter &painter, QPoint topLeft, const QStringList &keys, const QPalette &palette)
+{
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    qreal x = 0;
-    for (const QString &key : m_keys) {
-        const QRectF cap(QPointF(x, 0), capSize(key));
+    QPointF corner = topLeft;
+    for (const QString &key : keys) {
+        const QRectF cap(corner, capSize(key, painter.fontMetrics()));
         painter.setPen(Colors::outline());
         painter.setBrush(Colors::outline());
         painter.drawRoundedRect(cap.adjusted(0.5, 0.5 + rim, -0.5, rim - 0.5), 4.5, 4.5);
-        painter.setBrush(palette().color(QPalette::Button));
+        painter.setBrush(palette.color(QPalette::Button));
         painter.drawRoundedRect(cap.adjusted(0.5, 0.5, -0.5, -0.5), 4.5, 4.5);
-        painter.setPen(palette().color(QPalette::ButtonText));
+        painter.setPen(palette.color(QPalette::ButtonText));
         painter.drawText(cap, Qt::AlignCenter, key);
-        x += cap.width() + gap;
+        corner.rx() += cap.width() + gap;
     }
+    painter.restore();
 }
 
 } // namespace tessaly

@@ -5,13 +5,21 @@
 #include <QStringList>
 #include <QWidget>
 
+class QPainter;
+
 namespace tessaly {
 
 /// The names of the keys of a combination in the order in which they are pressed: Ctrl, Shift, S. A minus key is
 /// written with the minus sign.
 QStringList keyNames(const QKeySequence &combination);
 
-/// Keys drawn as the caps of a keyboard.
+/// Keys drawn as the caps of a keyboard, in the painter's font. Sizes in logical pixels.
+namespace KeyCapsPainting {
+QSize size(const QStringList &keys, const QFontMetrics &metrics);
+void draw(QPainter &painter, QPoint topLeft, const QStringList &keys, const QPalette &palette);
+} // namespace KeyCapsPainting
+
+/// A combination shown as the caps of a keyboard.
 class KeyCaps : public QWidget {
 public:
     explicit KeyCaps(const QStringList &keys, QWidget *parent = nullptr);
@@ -23,8 +31,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QSize capSize(const QString &key) const;
-
     QStringList m_keys;
 };
 

@@ -2,6 +2,7 @@
 #include "ui/Menu/MenuBar.h"
 
 #include "ui/Menu/CommandActions.h"
+#include "ui/Menu/RecentPictures.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -30,21 +31,6 @@ constexpr MenuTitle titles[] = {
     { CommandMenu::Help, QT_TRANSLATE_NOOP("Menus", "&Help") },
 };
 
-/// The commands whose rows are found out when their menu opens.
-const ChoiceMenu *choiceMenuOf(CommandId command, const CommandHooks &hooks)
-{
-    switch (command) {
-    case CommandId::OpenRecent:
-        return &hooks.openRecent;
-    case CommandId::ExportAs:
-        return &hooks.exportAs;
-    case CommandId::FullScreenOn:
-        return &hooks.fullScreenOn;
-    default:
-        return nullptr;
-    }
-}
-
 void fillChoices(QMenu &menu, const ChoiceMenu &source)
 {
     menu.clear();
@@ -53,9 +39,10 @@ void fillChoices(QMenu &menu, const ChoiceMenu &source)
         // A file's own "&" is no mnemonic.
         QAction *action = menu.addAction(QString(choice.title).replace(u'&', QStringLiteral("&&")));
         action->setToolTip(choice.value);
+        action->setData(choice.value);
         QObject::connect(action, &QAction::triggered, &menu, [&source, value = choice.value] { source.choose(value); });
     }
-    if (!source.clear)
+    if (!source.canClear || !source.canClear())
         return;
     menu.addSeparator();
     QAction *clear = menu.addAction(QCoreApplication::translate("Commands", "Clear Menu"), source.clear);
@@ -68,6 +55,8 @@ void addChoices(QMenu &menu, CommandActions &actions, const CommandRow &row, con
     choices->setObjectName(QLatin1StringView(row.title));
     choices->setToolTipsVisible(row.id == CommandId::OpenRecent);
     QObject::connect(choices, &QMenu::aboutToShow, choices, [choices, &source] { fillChoices(*choices, source); });
+    if (row.id == CommandId::OpenRecent)
+        new RecentPictures(*choices);
     // The action of the command says when its choices may be made.
     QAction *command = actions.action(row.id);
     const auto follow = [choices, command] {
@@ -109,8 +98,7 @@ void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
         if (row.group != group && !menu.isEmpty())
             menu.addSeparator();
         group = row.group;
-        const ChoiceMenu *choices = choiceMenuOf(row.id, actions.hooks());
-        if (choices && choices->choices)
+        if (const ChoiceMenu *choices = actions.choiceMenu(row.id))
             addChoices(menu, actions, row, *choices);
         else if (*row.submenu)
             addToSubmenu(submenu(menu, row.submenu), *actions.action(row.id));
@@ -120,6 +108,15 @@ void addCommands(QMenu &menu, CommandActions &actions, CommandMenu which)
 }
 
 } // namespace
+
+QString menuTitle(CommandMenu menu)
+{
+    if (menu == CommandMenu::Tray)
+        return QCoreApplication::translate("Menus", "Tray");
+    const CommandMenu shown = menu == CommandMenu::Application ? CommandMenu::File : menu;
+    const auto row = std::ranges::find(titles, shown, &MenuTitle::menu);
+    return QCoreApplication::translate("Menus", row->title).remove(u'&');
+}
 
 void fillMenuBar(QMenuBar &bar, CommandActions &actions)
 {

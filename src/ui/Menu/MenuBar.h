@@ -13,4 +13,7 @@ class CommandActions;
 /// actions is asked again whenever a menu opens. The actions must live as long as the bar.
 void fillMenuBar(QMenuBar &bar, CommandActions &actions);
 
+/// What the menu is called, as the user reads it, without a mnemonic.
+QString menuTitle(CommandMenu menu);
+
 } // namespace tessaly

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Menu/ShortcutsSheet.h"
 
+#include "ui/Menu/Commands.h"
 #include "ui/Menu/KeyCaps.h"
 #include "ui/Menu/ToolTable.h"
 #include "ui/Style/Appearance.h"
@@ -20,7 +21,7 @@ namespace {
 
 constexpr CommandId general[] = { CommandId::Undo, CommandId::Redo, CommandId::Delete, CommandId::Copy, CommandId::Save,
     CommandId::ZoomIn, CommandId::ZoomOut, CommandId::ActualSize, CommandId::ZoomToFit,
-    CommandId::RotateCounterclockwise, CommandId::RotateClockwise, CommandId::ResizeImage, CommandId::StartWindow };
+    CommandId::RotateCounterclockwise, CommandId::RotateClockwise, CommandId::ResizeImage };
 
 constexpr int columnGap = 36;
 constexpr int pairsPerLine = 2;
@@ -111,7 +112,12 @@ QLabel *note(const QString &text)
 
 } // namespace
 
-std::span<const CommandId> ShortcutsSheet::generalCommands() { return general; }
+void ShortcutsSheet::showAbove(QWidget &window)
+{
+    auto *sheet = new ShortcutsSheet(&window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
+}
 
 ShortcutsSheet::ShortcutsSheet(QWidget *parent) : QDialog(parent)
 {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ui/Menu/Commands.h"
-
 #include <QDialog>
 
 namespace tessaly {
@@ -14,8 +12,8 @@ class ShortcutsSheet : public QDialog {
 public:
     explicit ShortcutsSheet(QWidget *parent = nullptr);
 
-    /// The general commands that it lists, in their order.
-    static std::span<const CommandId> generalCommands();
+    /// Shows one above `window`, which deletes itself when it is closed.
+    static void showAbove(QWidget &window);
 
 private:
     QWidget *content();

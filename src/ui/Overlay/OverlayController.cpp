@@ -140,13 +140,13 @@ OverlayController::~OverlayController()
 
 bool OverlayController::showsLiveScreen() const { return m_implementation->surroundings.layers.showsTransparency(); }
 
-void OverlayController::prepare()
+void OverlayController::prepare(OverlayUse use)
 {
     m_implementation->coverScreens();
     if (m_implementation->session)
         return;
     for (const Cover &cover : m_implementation->covers)
-        cover.view->prepareSurface();
+        cover.view->prepareSurface(use);
     m_implementation->rest.start(m_implementation->surroundings.rest);
 }
 

@@ -30,7 +30,7 @@ public:
     ~OverlayController() override;
 
     bool showsLiveScreen() const override;
-    void prepare() override;
+    void prepare(OverlayUse use) override;
     void release() override;
     /// Ends cancelled at once when none of the displays is a screen of Qt's, and when one of them goes away later.
     int begin(Opening opening, Completion completion) override;

@@ -60,14 +60,14 @@ OverlayWindow::OverlayWindow(QScreen &screen, bool seeThrough, bool takesParts) 
 
 OverlayWindow::~OverlayWindow() { waitForSurface(); }
 
-void OverlayWindow::prepareSurface()
+void OverlayWindow::prepareSurface(OverlayUse use)
 {
-    if (m_store.size() == storeSize())
+    if (m_store.size() == size() || (use == OverlayUse::AtOnce && rowsOfPart() > 0))
         return;
     waitForSurface();
     m_painted = false;
-    m_store.resize(storeSize());
-    m_store.beginPaint(QRect(QPoint(), storeSize()));
+    m_store.resize(size());
+    m_store.beginPaint(QRect(QPoint(), size()));
     // The system gives memory when it is first written to.
     // One thread: the screen is read meanwhile, by this program and the server in turn.
     if (auto *image = dynamic_cast<QImage *>(m_store.paintDevice()); image && !image->isNull())
@@ -99,9 +99,13 @@ void OverlayWindow::paintAhead()
 {
     m_dirty = {};
     waitForSurface();
-    if (m_store.size() != storeSize())
-        m_store.resize(storeSize());
-    if (rowsOfPart() == 0)
+    // Memory of a whole monitor that has not been made before costs more than the painting, on both sides.
+    m_rowsOfPart = m_store.size() == size() ? 0 : rowsOfPart();
+    if (m_rowsOfPart > 0)
+        m_store.resize(QSize(width(), 2 * m_rowsOfPart)); // one part is painted while the other one is being shown
+    else
+        m_store.resize(size());
+    if (m_rowsOfPart == 0)
         paintPoints(pointsOf(pixelsAround(QRect(QPoint(), size()), pixelsPerPoint())));
     m_painted = true;
 }
@@ -132,13 +136,6 @@ int OverlayWindow::rowsOfPart() const
     return 0;
 }
 
-/// Two parts: one is painted while the other one is being shown.
-QSize OverlayWindow::storeSize() const
-{
-    const int rows = rowsOfPart();
-    return rows > 0 ? QSize(width(), 2 * rows) : size();
-}
-
 /// Around the pixels.
 QRegion OverlayWindow::pointsOf(const QRegion &pixels) const
 {
@@ -147,7 +144,7 @@ QRegion OverlayWindow::pointsOf(const QRegion &pixels) const
 
 void OverlayWindow::sendParts(const QRegion &points)
 {
-    const int rows = rowsOfPart();
+    const int rows = m_rowsOfPart;
     const double scale = pixelsPerPoint();
     int place = 0; // in the store
     for (int top = points.boundingRect().top() / rows * rows; top <= points.boundingRect().bottom(); top += rows) {
@@ -201,7 +198,7 @@ void OverlayWindow::paintPixels(QImage &surface, const QRegion &points)
 
 void OverlayWindow::show(const QRegion &points)
 {
-    if (rowsOfPart() > 0)
+    if (m_rowsOfPart > 0)
         sendParts(points);
     else
         m_store.flush(points);
@@ -233,7 +230,7 @@ bool OverlayWindow::event(QEvent *event)
     if (!m_painted || !isExposed() || m_dirty.isEmpty())
         return true;
     const QRegion points = pointsOf(std::exchange(m_dirty, {}));
-    if (rowsOfPart() == 0)
+    if (m_rowsOfPart == 0)
         paintPoints(points);
     show(points);
     return true;

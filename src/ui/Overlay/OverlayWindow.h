@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Screen/SelectionOverlay.h"
+
 #include <QBackingStore>
 #include <QImage>
 #include <QRegion>
@@ -12,7 +14,7 @@ namespace tessaly {
 
 /// A window over a whole monitor that is painted in the monitor's device pixels, whatever its scale, and only where it
 /// has changed. Its pixels can be made before it is shown and given back while it is hidden; where the window system
-/// takes parts, there are only as many as are sent at once.
+/// takes parts, one that has none yet is painted with as many as are sent at once.
 class OverlayWindow : public QWindow {
 public:
     /// A see-through window lets others be seen where it is painted transparent. For `takesParts` see WindowLayers.
@@ -26,7 +28,8 @@ public:
     void setMonitorPixels(const QSize &size) { m_pixelSize = size; }
 
     /// Makes the memory that is painted into, on another thread; the first painting waits for what is left of it.
-    void prepareSurface();
+    /// At once it makes none where the window system takes parts.
+    void prepareSurface(OverlayUse use);
     /// Only while it is hidden.
     void releaseSurface();
 
@@ -55,7 +58,6 @@ private:
     double pixelsPerPoint() const;
     bool isResampled() const;
     int rowsOfPart() const;
-    QSize storeSize() const;
     QRegion pointsOf(const QRegion &pixels) const;
     void paintPoints(const QRegion &points);
     void paintPixels(QImage &surface, const QRegion &points);
@@ -70,6 +72,7 @@ private:
     std::thread m_preparing;
     QRegion m_dirty; ///< device pixels
     QRegion m_exposed; ///< points that the window system has asked for
+    int m_rowsOfPart = 0; ///< in points; 0 while it is painted as a whole
     bool m_seeThrough, m_takesParts;
     bool m_painted = false;
     bool m_shown = false;

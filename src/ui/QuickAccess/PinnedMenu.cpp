@@ -44,11 +44,12 @@ void add(QMenu &menu, const Row &row, PinnedScreenshotWindow &window)
 
 void addOpacities(QMenu &menu, PinnedScreenshotWindow &window)
 {
-    auto *opacities = menu.addMenu(Icons::icon(QLatin1StringView("opacity")), translated("Opacity"));
+    auto *opacities = menu.addMenu(
+        Icons::icon(QLatin1StringView("opacity")), QCoreApplication::translate("PinnedScreenshot", "Opacity"));
     auto *group = new QActionGroup(opacities);
     constexpr int most = 100, least = 20, step = 20;
     for (int percent = most; percent >= least; percent -= step) {
-        QAction *action = group->addAction(translated("%1 %").arg(percent));
+        QAction *action = group->addAction(QCoreApplication::translate("PinnedScreenshot", "%1 %").arg(percent));
         action->setCheckable(true);
         action->setChecked(qRound(window.opacity() * 100) == percent);
         QObject::connect(
@@ -68,7 +69,8 @@ void fillPinnedMenu(QMenu &menu, PinnedScreenshotWindow &window)
     add(menu, sizeRow, window);
     add(menu, lockRow, window);
     if (!window.staysAbove())
-        menu.addAction(translated("On this desktop other windows can cover it"))->setEnabled(false);
+        menu.addAction(QCoreApplication::translate("PinnedScreenshot", "On this desktop other windows can cover it"))
+            ->setEnabled(false);
     menu.addSeparator();
     add(menu, closeRow, window);
 }

@@ -8,8 +8,6 @@ namespace tessaly::EntryTexts {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("EntryTexts", text); }
-
 QString pixelSize(const HistoryEntry &entry)
 {
     return QStringLiteral(u"%1 × %2").arg(entry.pixelWidth).arg(entry.pixelHeight);
@@ -20,8 +18,9 @@ QString day(const QDateTime &created, const QDateTime &now)
     const QDate date = created.toLocalTime().date();
     const qint64 daysAgo = date.daysTo(now.toLocalTime().date());
     if (daysAgo == 0)
-        return tr("Today");
-    return daysAgo == 1 ? tr("Yesterday") : QLocale().toString(date, QLocale::ShortFormat);
+        return QCoreApplication::translate("EntryTexts", "Today");
+    return daysAgo == 1 ? QCoreApplication::translate("EntryTexts", "Yesterday")
+                        : QLocale().toString(date, QLocale::ShortFormat);
 }
 
 /// Without the seconds that some languages write even in the short form.
@@ -36,12 +35,12 @@ QString timeOfDay(const QDateTime &created)
 QString title(const HistoryEntry &entry)
 {
     const QString title = entry.title.simplified();
-    return title.isEmpty() ? tr("Screenshot") : title;
+    return title.isEmpty() ? QCoreApplication::translate("EntryTexts", "Screenshot") : title;
 }
 
 QString moment(const QDateTime &created, const QDateTime &now)
 {
-    return tr("%1, %2").arg(day(created, now), timeOfDay(created));
+    return QCoreApplication::translate("EntryTexts", "%1, %2").arg(day(created, now), timeOfDay(created));
 }
 
 QStringList subtitles(const HistoryEntry &entry, const QDateTime &now)
@@ -65,8 +64,9 @@ QString toolTip(const HistoryEntry &entry)
 QString retention(double days)
 {
     if (days < 1)
-        return tr("Captures are kept only on this Mac, until you delete them.");
-    return tr("Captures are kept only on this Mac, for %1 days.").arg(qint64(days));
+        return QCoreApplication::translate("EntryTexts", "Captures are kept only on this Mac, until you delete them.");
+    return QCoreApplication::translate("EntryTexts", "Captures are kept only on this Mac, for %1 days.")
+        .arg(qint64(days));
 }
 
 } // namespace tessaly::EntryTexts

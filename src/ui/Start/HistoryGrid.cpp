@@ -179,10 +179,17 @@ void HistoryGrid::arrange()
         setGridSize(tile);
 }
 
+/// The selected capture stays in sight, also where the offer to undo a deletion takes some of the room.
 void HistoryGrid::resizeEvent(QResizeEvent *event)
 {
+    const QModelIndex current = currentIndex();
+    const bool wasSeen = current.isValid() && QRect({}, event->oldSize()).contains(visualRect(current));
     arrange();
     QListView::resizeEvent(event);
+    if (wasSeen) {
+        executeDelayedItemsLayout();
+        scrollTo(current);
+    }
     updateWanted();
 }
 

@@ -1,14 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Start/StartCommands.h"
 
+#include "ui/Menu/CommandPalette.h"
 #include "ui/Menu/ShortcutsSheet.h"
 
 namespace tessaly {
 
-StartCommands::StartCommands(QWidget &window, CommandTarget &program) : m_window(window), m_program(program)
+StartCommands::StartCommands(QWidget &window, CommandTarget &program, PaletteSupply *palette) :
+    m_window(window),
+    m_program(program),
+    m_palette(palette)
 {
     CommandHooks hooks { .target = [this] { return this; } };
-    hooks.isOffered = [this](CommandId command) { return knows(command); };
+    hooks.isOffered = [this](CommandId command) {
+        switch (command) {
+        case CommandId::Share: // not on every desktop
+        case CommandId::CaptureWindow:
+        case CommandId::CaptureFrontWindow:
+            return knows(command);
+        default:
+            return true;
+        }
+    };
+    hooks.currentTool = [] { return std::optional<Tool>(); };
     m_actions = new CommandActions(&window, std::move(hooks));
 }
 
@@ -16,6 +30,7 @@ bool StartCommands::knows(CommandId command) const
 {
     switch (command) {
     case CommandId::KeyboardShortcuts:
+    case CommandId::CommandPalette:
         return true;
     case CommandId::NewTab: // of which window?
     case CommandId::StartWindow:
@@ -27,16 +42,17 @@ bool StartCommands::knows(CommandId command) const
 
 bool StartCommands::canPerform(CommandId command) const
 {
-    return command == CommandId::KeyboardShortcuts || m_program.canPerform(command);
+    return command == CommandId::KeyboardShortcuts || command == CommandId::CommandPalette
+        || m_program.canPerform(command);
 }
 
 void StartCommands::perform(CommandId command)
 {
-    if (command != CommandId::KeyboardShortcuts)
-        return m_program.perform(command);
-    auto *sheet = new ShortcutsSheet(&m_window);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->open();
+    if (command == CommandId::KeyboardShortcuts)
+        return ShortcutsSheet::showAbove(m_window);
+    if (command == CommandId::CommandPalette)
+        return CommandPalette::open(m_window, *m_actions, m_palette);
+    m_program.perform(command);
 }
 
 } // namespace tessaly

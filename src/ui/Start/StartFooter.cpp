@@ -4,24 +4,52 @@
 #include "ui/Style/Appearance.h"
 #include "ui/Style/Icons.h"
 
+#include <QBoxLayout>
 #include <QEvent>
-#include <QHBoxLayout>
 
 namespace tessaly {
 
-StartFooter::StartFooter(QWidget *parent) : QWidget(parent), m_lock(new QLabel), m_text(new QLabel)
+StartFooter::StartFooter(QWidget *parent) :
+    QWidget(parent),
+    m_lock(new QLabel),
+    m_text(new QLabel),
+    m_settings(new QToolButton),
+    m_hint(new QLabel)
 {
     m_text->setObjectName(QStringLiteral("retention"));
-    m_text->setWordWrap(true);
-    m_text->setTextFormat(Qt::PlainText);
+    m_hint->setObjectName(QStringLiteral("hint"));
+    for (QLabel *label : { m_text, m_hint }) {
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+    }
+    m_hint->hide();
     m_lock->setAccessibleName(tr("Private"));
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins({});
+    m_settings->setText(tr("History Settings…"));
+    m_settings->setToolTip(tr("How long captures are kept, and whether any are"));
+    m_settings->setAutoRaise(true);
+    m_settings->setFocusPolicy(Qt::TabFocus);
+    m_settings->hide();
+    connect(m_settings, &QToolButton::clicked, this, &StartFooter::settingsRequested);
+    auto *row = new QHBoxLayout;
     row->setSpacing(6);
-    row->addWidget(m_lock, 0, Qt::AlignTop);
+    row->addWidget(m_lock);
     row->addWidget(m_text, 1);
+    row->addWidget(m_settings);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(6);
+    column->addWidget(m_hint);
+    column->addLayout(row);
     dress();
 }
+
+void StartFooter::setHint(const QString &sentence)
+{
+    m_hint->setText(sentence);
+    m_hint->setVisible(!sentence.isEmpty());
+}
+
+void StartFooter::setOffersSettings(bool offers) { m_settings->setVisible(offers); }
 
 void StartFooter::setText(const QString &text) { m_text->setText(text); }
 
@@ -35,6 +63,7 @@ void StartFooter::dress()
         return;
     quiet.setColor(QPalette::WindowText, Colors::quietText());
     m_text->setPalette(quiet);
+    m_hint->setPalette(quiet);
 }
 
 void StartFooter::changeEvent(QEvent *event)

@@ -2,11 +2,13 @@
 #include "ui/Start/StartView.h"
 
 #include "core/Desktop/Clipboard.h"
+#include "core/Desktop/DroppedContent.h"
 #include "core/Desktop/Links.h"
 #include "core/Export/DragFile.h"
 #include "core/Export/ExportService.h"
 #include "core/History/CaptureHistory.h"
 #include "core/Preferences/Settings.h"
+#include "ui/Menu/CommandTarget.h"
 #include "ui/Start/EntryTexts.h"
 #include "ui/Start/HistoryGrid.h"
 #include "ui/Start/NoticeBar.h"
@@ -15,10 +17,12 @@
 #include "ui/Start/StartFooter.h"
 #include "ui/Start/StartMessage.h"
 
-#include <QCoreApplication>
+#include <QDropEvent>
+#include <QGuiApplication>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -103,6 +107,7 @@ StartView::StartView(const StartServices &services, StartRequests requests, QWid
     column->addLayout(inset(m_footer));
     connectParts();
     addShortcuts();
+    setAcceptDrops(bool(m_requests.openDropped));
 }
 
 StartView::~StartView() { settle(); }
@@ -115,6 +120,7 @@ QLayout *StartView::makeHeading()
     row->addStretch();
     row->addWidget(m_search, 1);
     m_search->setMaximumWidth(280);
+    m_search->setAcceptDrops(false); // files that are dropped on it are for the window
     return row;
 }
 
@@ -133,7 +139,13 @@ void StartView::connectParts()
     };
     connect(&m_services.history, &CaptureHistory::loaded, this, follow);
     connect(&m_services.history, &CaptureHistory::entriesChanged, this, follow);
+    m_footer->setOffersSettings(m_requests.program && m_requests.program->knows(CommandId::Settings));
+    connect(m_footer, &StartFooter::settingsRequested, this, &StartView::openHistorySettings);
     connect(&m_services.clipboard, &Clipboard::changed, this, &StartView::refreshClipboard);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        if (isVisible())
+            refreshClipboard();
+    });
     connect(qApp, &QCoreApplication::aboutToQuit, this, &StartView::settle);
 }
 
@@ -154,6 +166,15 @@ void StartView::addShortcuts()
     });
     add(Qt::CTRL | Qt::Key_Z, [this] { undoDeletion(); });
     add(Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
+}
+
+void StartView::setHint(const QString &sentence) { m_footer->setHint(sentence); }
+
+void StartView::openHistorySettings()
+{
+    // Where it cannot be stored the settings still open on it: the value holds in this run.
+    static_cast<void>(m_services.settings.set(SettingKeys::settingsTab, QStringLiteral("history")));
+    m_requests.program->perform(CommandId::Settings);
 }
 
 void StartView::refreshClipboard() { m_actions->setClipboardHasImage(hasImage(m_services.clipboard)); }
@@ -262,6 +283,21 @@ void StartView::prepareToShow()
     m_deletion.forgetSettled();
     refresh();
     focusFirst();
+}
+
+void StartView::dragEnterEvent(QDragEnterEvent *event)
+{
+    // Not its own tiles, which would open as copies of themselves.
+    if (!event->source() && !DroppedContent::offered(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void StartView::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    // Afterwards: the program that the files come from waits until this returns, and opening may ask the user.
+    const auto open = [this, content = DroppedContent::taken(*event->mimeData())] { m_requests.openDropped(content); };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 void StartView::focusFirst()

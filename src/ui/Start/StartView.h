@@ -38,11 +38,18 @@ public:
     /// Removes what was deleted; it can then not be taken back any more.
     void settle();
     void refreshClipboard();
+    /// A sentence in the footer; empty for none.
+    void setHint(const QString &sentence);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QLayout *makeHeading();
     void connectParts();
     void addShortcuts();
+    void openHistorySettings();
     void focusFirst();
     /// Shows what settings, history and clipboard say now.
     void refresh();

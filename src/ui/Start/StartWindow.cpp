@@ -4,7 +4,7 @@
 #include "core/Preferences/Settings.h"
 #include "ui/Menu/MenuBar.h"
 #include "ui/Start/StartCommands.h"
-#include "ui/Start/WindowFrame.h"
+#include "ui/Style/WindowFrame.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -30,7 +30,8 @@ QList<QRect> availableScreens()
 
 StartWindow::StartWindow(const StartServices &services, StartRequests requests) :
     m_settings(services.settings),
-    m_commands(requests.program ? std::make_unique<StartCommands>(*this, *requests.program) : nullptr),
+    m_commands(
+        requests.program ? std::make_unique<StartCommands>(*this, *requests.program, requests.palette) : nullptr),
     m_view(new StartView(services, std::move(requests)))
 {
     setObjectName(QStringLiteral("startWindow"));

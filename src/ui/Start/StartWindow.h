@@ -20,6 +20,7 @@ public:
 
     /// Shows it, or brings it to the front.
     void bringToFront();
+    void setHint(const QString &sentence) { m_view->setHint(sentence); }
 
 Q_SIGNALS:
     void closed();

@@ -9,10 +9,11 @@ struct StartWindowController::Implementation {
     StartServices services;
     StartRequests requests;
     std::unique_ptr<StartWindow> window; ///< made when it is first shown
+    QString hint;
 };
 
 StartWindowController::StartWindowController(const StartServices &services, StartRequests requests) :
-    m_implementation(new Implementation { services, std::move(requests), nullptr })
+    m_implementation(new Implementation { services, std::move(requests), nullptr, {} })
 {
 }
 
@@ -24,6 +25,7 @@ void StartWindowController::show()
     if (!window) {
         window = std::make_unique<StartWindow>(m_implementation->services, m_implementation->requests);
         connect(window.get(), &StartWindow::closed, this, &StartWindowController::closed);
+        window->setHint(m_implementation->hint);
     }
     window->bringToFront();
 }
@@ -39,6 +41,13 @@ void StartWindowController::close()
         return;
     const QSignalBlocker quiet(*m_implementation->window); // only what the user closes is told
     m_implementation->window->close();
+}
+
+void StartWindowController::setHint(const QString &sentence)
+{
+    m_implementation->hint = sentence;
+    if (m_implementation->window)
+        m_implementation->window->setHint(sentence);
 }
 
 } // namespace tessaly

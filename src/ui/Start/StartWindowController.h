@@ -15,7 +15,9 @@ class Clock;
 class CommandTarget;
 class ExportService;
 class Links;
+class PaletteSupply;
 class Settings;
+struct DroppedContent;
 
 /// What the start window needs of the program; each outlives it.
 struct StartServices {
@@ -32,7 +34,9 @@ struct StartRequests {
     std::function<void()> openFile; ///< "Open…"
     std::function<void()> paste;
     std::function<void(const QUuid &id)> openEntry;
+    std::function<void(const DroppedContent &)> openDropped = {}; ///< on the window; nothing can be without
     CommandTarget *program = nullptr; ///< whose commands its menus and keys offer; outlives the window
+    PaletteSupply *palette = nullptr; ///< of the command palette of all windows; outlives the window
 };
 
 /// The window with the recent captures; made when it is first shown, and kept. Main thread only.
@@ -47,6 +51,8 @@ public:
     void show();
     bool isVisible() const;
     void close();
+    /// A sentence that it shows below all others; empty for none.
+    void setHint(const QString &sentence);
 
 Q_SIGNALS:
     /// The user has closed the window.

@@ -28,8 +28,29 @@ constexpr PlatformTexts::Row table[] = {
         "Or paste a screenshot with Ctrl+Shift+N." },
     { "Clicks now pass through. To unlock, choose Unlock Pinned Screenshots from the Tessaly menu bar icon or the "
       "Window menu.",
-        "Clicks now pass through. To unlock, choose Unlock Pinned Screenshots from the Image menu of a Tessaly window "
-        "(Ctrl+Alt+U)." },
+        "Clicks now pass through. To unlock, choose Unlock Pinned Screenshots from the menu of Tessaly’s tray icon, or "
+        "from the Image menu of a Tessaly window (Ctrl+Alt+U)." },
+    { "Show in Dock", "Open a window when Tessaly starts" },
+    { "Show in menu bar", "Show in the tray" },
+    { "Retina screenshots are 2× (144 dpi) and some apps paste them at half size. Turn this on to always paste at full "
+      "pixel size — just as sharp, but the image lands larger in the document.",
+        "High-density screenshots are 2× (144 dpi) and some apps paste them at half size. Turn this on to always paste "
+        "at full pixel size — just as sharp, but the image lands larger in the document." },
+    { "Keep using macOS's ⇧⌘4 shortcut — Tessaly watches the folder where screenshots are saved and opens each new one "
+      "in the editor.",
+        "Keep using the screenshot key of your desktop — Tessaly watches the folder where screenshots are saved and "
+        "opens each new one in the editor." },
+    { "This works without the Screen Recording permission — as does pasting a screenshot with ⇧⌘N.",
+        "This works also where your desktop lets no program capture the screen — as does pasting a screenshot with "
+        "Ctrl+Shift+N." },
+    { "Each capture is saved on this Mac with its annotations, so you can reopen it from the start window and keep "
+      "editing. Nothing leaves your Mac.",
+        "Each capture is saved on this computer with its annotations, so you can reopen it from the start window and "
+        "keep editing. Nothing leaves your computer." },
+    { "1 capture in the history will be deleted from this Mac. This can't be undone.",
+        "1 capture in the history will be deleted from this computer. This can't be undone." },
+    { "%1 captures in the history will be deleted from this Mac. This can't be undone.",
+        "%1 captures in the history will be deleted from this computer. This can't be undone." },
 };
 
 } // namespace

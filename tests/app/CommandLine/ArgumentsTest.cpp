@@ -17,6 +17,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("fragment");
         QTest::newRow("nothing") << QStringList() << "no display";
         QTest::newRow("a file to open") << QStringList { "file" } << "no display";
+        QTest::newRow("files to open") << QStringList { "open", "file", "other" } << "no display";
+        QTest::newRow("an operation") << QStringList { "--action", "CaptureRegion" } << "no display";
+        QTest::newRow("no file to open") << QStringList { "open" } << "FILE";
         QTest::newRow("unknown command") << QStringList { "exprot" } << "\"exprot\"";
         QTest::newRow("unknown option") << QStringList { "export", "--loud" } << "\"--loud\"";
         QTest::newRow("no command of capture") << QStringList { "capture" } << "command";

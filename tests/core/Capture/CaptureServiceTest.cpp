@@ -434,13 +434,14 @@ private Q_SLOTS:
     {
         CaptureStage stage(milliseconds(0), milliseconds(30));
         stage.service.prepare();
-        QCOMPARE(stage.overlay.prepared, 1);
+        QCOMPARE(stage.overlay.prepared, QList { OverlayUse::Later });
         QCOMPARE(stage.screen.prepared, 1);
         stage.service.capture(CaptureMode::Region);
         QTest::qWait(60); // selecting is no rest, however long it takes
         QCOMPARE(stage.screen.released, 0);
         stage.overlay.cancel();
         QTRY_COMPARE(stage.screen.released, 1);
+        QCOMPARE(stage.overlay.prepared, QList({ OverlayUse::Later, OverlayUse::AtOnce, OverlayUse::Later }));
     }
 
     void fiveHundredRequestsLeaveNothingBehind()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Editor/EditorWindowController.h"
 
+#include "core/Desktop/DroppedContent.h"
+
 #include "core/Document/TessalyDocument.h"
 #include "core/Export/ImageEncoder.h"
 #include "tests/support/Rows.h"
@@ -112,6 +114,24 @@ class EditorWindowControllerTest : public QObject {
     }
 
 private Q_SLOTS:
+    /// What can be opened is, and the rest is told.
+    void droppedThingsAreOpened()
+    {
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        const QString picture = desk.folder.filePath("a.png"), document = desk.folder.filePath("b.tessaly");
+        put(picture, pictureBytes());
+        putDocument(document);
+        editors.openDropped({ .paths = { picture, desk.folder.path(), document }, .hasLinks = true });
+        QCOMPARE(desk.recentDocuments.paths(), QStringList({ document, picture }));
+        QCOMPARE(desk.alerts.shown, QStringList({ "Couldn't open the document", "A link cannot be opened" }));
+        editors.openDropped({ .picture = pictureBytes(), .hasPicture = true });
+        QCOMPARE(stateOf(editors).size(), 4); // three editors, and the count of those with changes
+        editors.openDropped({ .picture = "no picture", .hasPicture = true });
+        QCOMPARE(desk.alerts.shown.last(), "Couldn't open the picture");
+        QVERIFY(editors.closeAll());
+    }
+
     void aBadFileChangesNoWindow_data()
     {
         test::columns<QString, Prepare>("name", "prepare");
@@ -416,6 +436,24 @@ private Q_SLOTS:
         QCOMPARE(start.size(), 1);
         editors.perform(CommandId::StartWindow);
         QCOMPARE(start.size(), 2);
+    }
+
+    void recentDocumentsAreARowOfCommands()
+    {
+        test::EditorFixture desk;
+        EditorWindowController editors(desk.services);
+        QVERIFY(editors.canPerform(CommandId::OpenRecent));
+        for (const char *name : { "old.png", "new.png" }) {
+            put(desk.folder.filePath(name), pictureBytes({ 50, 20 }));
+            desk.recentDocuments.add(desk.folder.filePath(name));
+        }
+        const QList<MenuChoice> recent = editors.choices(CommandId::OpenRecent);
+        QCOMPARE(recent.size(), 2);
+        QCOMPARE(recent.first().title, "new.png");
+        editors.choose(CommandId::OpenRecent, recent.last().value);
+        QVERIFY(editors.hasEditors());
+        editors.clear(CommandId::OpenRecent);
+        QVERIFY(editors.choices(CommandId::OpenRecent).isEmpty());
     }
 
     void commandsOpenAndQuit()

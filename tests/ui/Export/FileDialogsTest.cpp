@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Preferences/Settings.h"
+#include "tests/support/PatientTest.h"
 #include "tests/support/Rows.h"
 #include "ui/Export/DocumentFileDialog.h"
 #include "ui/Export/FileDialogParts.h"
+#include "ui/Export/FileKinds.h"
+#include "ui/Export/FilePreview.h"
 #include "ui/Export/SaveImageDialog.h"
 #include "ui/Export/WidgetOpenPanels.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -118,6 +123,9 @@ private Q_SLOTS:
         QFileDialog &dialog = document ? static_cast<QFileDialog &>(package) : image;
         dialog.show();
         FileDialogParts::nameField(dialog)->setText(typed);
+        dialog.grab();
+        auto *save = dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save);
+        QVERIFY2(save->text().contains("Save"), qPrintable(save->text())); // nor "Open" for a document
         int questions = 0;
         answerNext(replaces ? QMessageBox::Yes : QMessageBox::No, questions);
         static_cast<QDialog &>(dialog).accept();
@@ -164,6 +172,49 @@ private Q_SLOTS:
         QCOMPARE(dialog.chosenPaths(), chosen ? QStringList(path(entry)) : QStringList());
         QCOMPARE(dialog.result() == QDialog::Accepted, chosen);
         QCOMPARE(dialog.directory().dirName() == "sub", !chosen);
+    }
+
+    /// Two documents and a picture, as they are selected with Ctrl; the pane beside them shows one alone.
+    void severalAreChosenTogether()
+    {
+        QVERIFY(QDir(m_folder.path()).mkpath("two.tessaly"));
+        QVERIFY(QImage(30, 20, QImage::Format_RGB32).save(path("two.tessaly/image.png")));
+        DocumentFileDialog dialog(DocumentFileDialog::Purpose::Open, nullptr);
+        dialog.setDirectory(m_folder.path());
+        dialog.show();
+        QAbstractItemView *view = FileDialogParts::listView(dialog);
+        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 4);
+        const auto select = [view](const QString &name) {
+            const QModelIndex first = view->model()->index(0, 0, view->rootIndex());
+            view->selectionModel()->select(view->model()->match(first, Qt::DisplayRole, name).value(0),
+                QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        };
+        view->setFocus();
+        select("two.tessaly");
+        auto *pane = dialog.findChild<QWidget *>("filePreview");
+        auto *kept = pane->findChild<FileThumbnails *>();
+        QVERIFY(kept);
+        QTRY_COMPARE(kept->thumbnail(path("two.tessaly")).size(), QSize(30, 20));
+        select("doc.tessaly");
+        QVERIFY(kept->thumbnail(path("two.tessaly")).isNull()); // given back
+        QCOMPARE(pane->findChild<QLabel *>("previewName")->text(), "2 selected");
+        select("there.png");
+        auto *open = dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Open);
+        QVERIFY(open->isEnabled());
+        open->click();
+        QStringList chosen = dialog.chosenPaths();
+        chosen.sort();
+        QCOMPARE(chosen, QStringList({ path("doc.tessaly"), path("there.png"), path("two.tessaly") }));
+        QVERIFY(QDir(path("two.tessaly")).removeRecursively());
+    }
+
+    void documentsLookLikeFiles()
+    {
+        const FileKinds kinds(this);
+        const QFileInfo document(path("doc.tessaly")), folder(path("sub"));
+        QCOMPARE(kinds.type(document), "Tessaly document");
+        QVERIFY(kinds.icon(document).cacheKey() != kinds.icon(folder).cacheKey());
+        QVERIFY(kinds.type(folder) != kinds.type(document));
     }
 
     void picturesAreChosenInTheirOrder_data()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Menu/CommandActions.h"
+#include "tests/support/RecordingTarget.h"
 #include "ui/Menu/ContextMenu.h"
 #include "ui/Menu/MenuBar.h"
 
@@ -10,28 +11,7 @@
 #include <QTest>
 
 using namespace tessaly;
-
-namespace {
-
-/// Can do what the test lets it, and remembers what it was told.
-class RecordingTarget : public CommandTarget {
-public:
-    QList<CommandId> known;
-    QList<CommandId> possible;
-    QList<CommandId> performed;
-
-    bool knows(CommandId command) const override { return known.contains(command); }
-    bool canPerform(CommandId command) const override { return possible.contains(command); }
-    void perform(CommandId command) override { performed += command; }
-    QList<MenuChoice> choices(CommandId command) const override
-    {
-        return command == CommandId::FullScreenOn ? QList<MenuChoice> { { "DP-1", "17" } } : QList<MenuChoice>();
-    }
-    void choose(CommandId, const QString &value) override { chosen += value; }
-    QStringList chosen;
-};
-
-} // namespace
+using namespace tessaly::test;
 
 class CommandActionsTest : public QObject {
     Q_OBJECT
@@ -40,8 +20,6 @@ class CommandActionsTest : public QObject {
     CommandTarget *m_current = &m_target;
     bool m_optionsBarIsOn = true;
     std::optional<Tool> m_tool = Tool::Arrow;
-    QList<MenuChoice> m_recents;
-    QStringList m_log;
 
     CommandHooks hooks()
     {
@@ -51,9 +29,6 @@ class CommandActionsTest : public QObject {
             .isOffered = [](CommandId id) { return id != CommandId::Share; },
             .currentTool = [this] { return m_tool; },
             .chooseTool = [this](Tool tool) { m_tool = tool; },
-            .openRecent = { .choices = [this] { return m_recents; },
-                .choose = [this](const QString &path) { m_log += path; },
-                .clear = [this] { m_recents.clear(); } },
         };
     }
 
@@ -78,26 +53,29 @@ private Q_SLOTS:
     void init()
     {
         m_target = {};
+        m_target.known.emplace();
+        m_target.possible.emplace();
+        m_target.rows[CommandId::OpenRecent] = { { "a&b.png", "/x/a&b.png" } };
+        m_target.rows[CommandId::FullScreenOn] = { { "DP-1", "17" } };
+        m_target.clears = true;
         m_current = &m_target;
         m_optionsBarIsOn = true;
         m_tool = Tool::Arrow;
-        m_recents = { { "a&b.png", "/x/a&b.png" } };
-        m_log.clear();
     }
 
     void followsWhatCanBeDone()
     {
         QMainWindow window;
         CommandActions actions(&window, hooks());
-        m_target.known = { CommandId::Undo, CommandId::Redo };
-        m_target.possible = { CommandId::Undo, CommandId::Save }; // Save is not its own
+        m_target.known = QList { CommandId::Undo, CommandId::Redo };
+        m_target.possible = QList { CommandId::Undo, CommandId::Save }; // Save is not its own
         actions.refresh();
         QVERIFY(actions.action(CommandId::Undo)->isEnabled());
         QVERIFY(!actions.action(CommandId::Redo)->isEnabled());
         QVERIFY(!actions.action(CommandId::Save)->isEnabled());
         QVERIFY(!actions.action(CommandId::Share)->isVisible());
 
-        m_target.possible.clear(); // what was possible when the key was pressed may be so no more
+        m_target.possible->clear(); // what was possible when the key was pressed may be so no more
         actions.action(CommandId::Undo)->trigger();
         QVERIFY(m_target.performed.isEmpty());
         m_current = nullptr;
@@ -135,29 +113,74 @@ private Q_SLOTS:
         QCOMPARE(actions.action(CommandId::Redo)->shortcuts().size(), 2);
     }
 
+    /// Groups and order as the user finds them; what every menu has beyond is in the table.
+    void fillsTheMenuBar_data()
+    {
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("titles");
+        QTest::newRow("file") << "&File"
+                              << "New Blank Canvas|New from Clipboard|Open…|Open Recent|New Tab|Close Tab|-|Save…|Save "
+                                 "as Tessaly Document…|Export As…|-|Settings…|-|Quit Tessaly";
+        QTest::newRow("edit") << "&Edit"
+                              << "Undo|Redo|-|Cut|Copy|Paste|Delete|Duplicate|-|Copy Image|Copy Text from Image|-|Copy "
+                                 "Style|Paste Style|Save Style|-|Edit Text|Order|-|Select Next|Select "
+                                 "Previous|Deselect|-|Turn On Snapping";
+        QTest::newRow("view") << "&View"
+                              << "Zoom In|Zoom Out|Actual Size|Zoom to Fit|-|Customize Toolbar…|Hide Options "
+                                 "Bar|Show Live Text";
+        QTest::newRow("tools") << "&Tools"
+                               << "Select|Arrow|Text|Rectangle|Ellipse|Line|Highlight|Pixelate|Stamp|Pen|Spotlight|"
+                                  "Sticker|Image|Crop|Magnifier|Frame";
+        QTest::newRow("image") << "&Image"
+                               << "Rotate Counterclockwise|Rotate Clockwise|Flip Horizontal|Flip Vertical|-|Resize "
+                                  "Image…|Sharpen…|Crop…|-|Pin to Screen|Unlock Pinned Screenshots|Close Pinned "
+                                  "Screenshots";
+        QTest::newRow("capture")
+            << "&Capture"
+            << "Capture Region|Capture Window|Capture Front Window|Capture Full Screen|Full Screen "
+               "on…|Recapture Last Region|Copy Text from Region|-|Quick Capture|-|New Collage — "
+               "Side by side|New Collage — Stacked";
+        QTest::newRow("window") << "&Window"
+                                << "Start Window";
+        QTest::newRow("help") << "&Help"
+                              << "Tessaly Help|Keyboard Shortcuts|Command Palette…|-|Welcome Guide|What’s New in "
+                                 "Tessaly|-|About Tessaly";
+    }
+
     void fillsTheMenuBar()
+    {
+        QFETCH(QString, menu);
+        QMainWindow window;
+        CommandActions actions(&window, hooks());
+        fillMenuBar(*window.menuBar(), actions);
+        QCOMPARE(window.menuBar()->actions().size(), 8);
+        QTEST(textsOf(*menuCalled(window.menuBar()->actions(), menu)).join(u'|'), "titles");
+    }
+
+    void everyCommandIsInOneMenu()
     {
         QMainWindow window;
         CommandActions actions(&window, hooks());
         fillMenuBar(*window.menuBar(), actions);
-        const auto bar = window.menuBar()->actions();
-        QCOMPARE(textsOf(*menuCalled(bar, "&File")),
-            QStringList({ "New Blank Canvas", "New from Clipboard", "Open…", "Open Recent", "New Tab", "Close Tab", "-",
-                "Save…", "Save as Tessaly Document…", "Export As…", "-", "Quit Tessaly" }));
-        QCOMPARE(textsOf(*menuCalled(menuCalled(bar, "&Edit")->actions(), "Order")),
-            QStringList({ "Bring Forward", "Send Backward", "Bring to Front", "Send to Back" }));
-        const QAction *order = menuCalled(menuCalled(bar, "&Edit")->actions(), "Order")->menuAction();
-        QVERIFY(!order->isEnabled());
-        m_target.known = m_target.possible = { CommandId::BringForward };
-        actions.refresh();
-        QVERIFY(order->isEnabled());
-        QCOMPARE(menuCalled(bar, "&Tools")->actions().size(), 16);
         for (const CommandRow &row : commandTable()) {
             const auto places = actions.action(row.id)->associatedObjects().size();
-            const int expected = row.id == CommandId::Share ? 1 : 2; // the window and, of what is offered, one menu
+            const bool isAbsent = row.id == CommandId::Share || row.menu == CommandMenu::Tray;
             const bool isSubmenu = row.id == CommandId::OpenRecent || row.id == CommandId::FullScreenOn;
-            QVERIFY2(places == expected || isSubmenu, row.title);
+            QVERIFY2(places == (isAbsent || isSubmenu ? 1 : 2), row.title); // the window is one
         }
+    }
+
+    void aSubmenuOpensWhileSomethingInItCanBeDone()
+    {
+        QMainWindow window;
+        CommandActions actions(&window, hooks());
+        fillMenuBar(*window.menuBar(), actions);
+        const QMenu *order = menuCalled(menuCalled(window.menuBar()->actions(), "&Edit")->actions(), "Order");
+        QCOMPARE(textsOf(*order), QStringList({ "Bring Forward", "Send Backward", "Bring to Front", "Send to Back" }));
+        QVERIFY(!order->menuAction()->isEnabled());
+        m_target.known = m_target.possible = QList { CommandId::BringForward };
+        actions.refresh();
+        QVERIFY(order->menuAction()->isEnabled());
     }
 
     void fillsOpenRecentWhenItOpens()
@@ -165,7 +188,7 @@ private Q_SLOTS:
         QMainWindow window;
         CommandActions actions(&window, hooks());
         fillMenuBar(*window.menuBar(), actions);
-        m_target.known = m_target.possible = { CommandId::OpenRecent };
+        m_target.known = m_target.possible = QList { CommandId::OpenRecent };
         QMenu *file = menuCalled(window.menuBar()->actions(), "&File");
         Q_EMIT file->aboutToShow();
         QMenu *recent = menuCalled(file->actions(), "Open Recent");
@@ -173,10 +196,11 @@ private Q_SLOTS:
         Q_EMIT recent->aboutToShow();
         QCOMPARE(textsOf(*recent), QStringList({ "a&&b.png", "-", "Clear Menu" }));
         recent->actions().first()->trigger();
-        QCOMPARE(m_log, QStringList("/x/a&b.png"));
+        QCOMPARE(m_target.chosen, QStringList("/x/a&b.png"));
         recent->actions().last()->trigger();
         Q_EMIT recent->aboutToShow();
-        QVERIFY(m_recents.isEmpty() && !recent->actions().last()->isEnabled());
+        QCOMPARE(textsOf(*recent), QStringList({ "-", "Clear Menu" }));
+        QVERIFY(!recent->actions().last()->isEnabled());
     }
 
     void displaysAreThoseOfTheTarget()
@@ -184,7 +208,7 @@ private Q_SLOTS:
         QMainWindow window;
         CommandActions actions(&window, hooks());
         fillMenuBar(*window.menuBar(), actions);
-        m_target.known = m_target.possible = { CommandId::FullScreenOn };
+        m_target.known = m_target.possible = QList { CommandId::FullScreenOn };
         actions.refresh();
         QMenu *displays = menuCalled(menuCalled(window.menuBar()->actions(), "&Capture")->actions(), "Full Screen on…");
         QVERIFY(displays && displays->menuAction()->isEnabled());
@@ -196,8 +220,8 @@ private Q_SLOTS:
 
     void contextMenusAskTheirTarget()
     {
-        m_target.known = { CommandId::Copy, CommandId::Cut };
-        m_target.possible = { CommandId::Copy };
+        m_target.known = QList { CommandId::Copy, CommandId::Cut };
+        m_target.possible = QList { CommandId::Copy };
         QMenu menu;
         QAction *copy = addCommand(menu, CommandId::Copy, m_target);
         QVERIFY(copy->isEnabled() && copy->shortcuts().isEmpty());

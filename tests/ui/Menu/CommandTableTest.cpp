@@ -35,6 +35,33 @@ private Q_SLOTS:
         }
     }
 
+    /// The keys that people know; another tool's letter or a slip of the pen would take one away.
+    void keysAreThoseOfTheMenus_data()
+    {
+        QTest::addColumn<QString>("keys");
+        const auto add = [](CommandMenu menu, const char *keys) {
+            QTest::newRow(qPrintable(QString::number(int(menu)))) << QString::fromLatin1(keys);
+        };
+        add(CommandMenu::File, "Ctrl+N Ctrl+Shift+N Ctrl+O Ctrl+T Ctrl+W Ctrl+S Ctrl+Shift+S");
+        add(CommandMenu::View, "Ctrl++ Ctrl+- Ctrl+0 Ctrl+9");
+        add(CommandMenu::Image, "Ctrl+[ Ctrl+] Ctrl+Shift+R Ctrl+Alt+U Ctrl+Alt+W");
+        add(CommandMenu::Capture, "Ctrl+Alt+4 Ctrl+Alt+5 Ctrl+Alt+Shift+5 Ctrl+Alt+3 Ctrl+Alt+Shift+4 Ctrl+Alt+7");
+        add(CommandMenu::Window, "Ctrl+Shift+1");
+        add(CommandMenu::Help, "Ctrl+? Ctrl+Shift+P");
+        add(CommandMenu::Application, "Ctrl+, Ctrl+Q");
+    }
+
+    void keysAreThoseOfTheMenus()
+    {
+        const auto menu = CommandMenu(QByteArray(QTest::currentDataTag()).toInt());
+        QStringList keys;
+        for (const CommandRow &row : commandTable()) {
+            if (row.menu == menu && *row.key)
+                keys += commandKeys(row).first().toString();
+        }
+        QTEST(keys.join(u' '), "keys");
+    }
+
     void everyIconExists()
     {
         const QStringList names = Icons::names();

@@ -48,7 +48,7 @@ private Q_SLOTS:
             QVERIFY2(!label->buddy()->accessibleName().isEmpty(), qPrintable(label->text()));
             QVERIFY2(label->buddy()->width() >= label->buddy()->sizeHint().width(), qPrintable(label->text()));
         }
-        QCOMPARE(names.size(), 13 + 16);
+        QCOMPARE(names.size(), 12 + 16);
         QCOMPARE(names.first(), "Undo");
         QCOMPARE(names[11], "Resize Image…");
         QCOMPARE(names.last(), "Frame");

@@ -298,7 +298,7 @@ private Q_SLOTS:
 
     void givesUpWithoutItsMonitor()
     {
-        overlay->prepare();
+        overlay->prepare(OverlayUse::Later);
         begin();
         QScreen *lost = QGuiApplication::screens().at(1);
         Q_EMIT lost->geometryChanged(lost->geometry());

@@ -61,6 +61,20 @@ private Q_SLOTS:
         m_grid->selectFirst();
     }
 
+    void theSelectedOneStaysInSight()
+    {
+        const auto isSeen
+            = [this] { return m_grid->viewport()->rect().contains(m_grid->visualRect(m_grid->currentIndex())); };
+        press(Qt::Key_Down);
+        m_grid->scrollTo(m_grid->currentIndex());
+        QVERIFY(isSeen());
+        m_grid->resize(780, m_grid->visualRect(m_grid->currentIndex()).bottom() - 30);
+        QVERIFY(isSeen());
+        m_grid->verticalScrollBar()->setValue(m_grid->verticalScrollBar()->maximum());
+        m_grid->resize(780, 380);
+        QVERIFY(!isSeen()); // it had been scrolled away
+    }
+
     void keysMoveAmongTheTiles()
     {
         QCOMPARE(current(), "0");

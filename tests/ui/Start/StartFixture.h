@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Base/LongWork.h"
+#include "core/Desktop/DroppedContent.h"
 #include "core/Export/ExportService.h"
 #include "core/Export/ImageEncoder.h"
 #include "core/History/CaptureHistory.h"
@@ -35,11 +36,12 @@ public:
     DirectWork work;
     ExportService exports { { settings, clipboard, alerts, panels, sharing, work, clock } };
     CaptureHistory history { { files, settings, clock } };
-    QStringList asked; ///< "open", "paste", or the title of an entry to open
+    QStringList asked; ///< "open", "paste", the title of an entry to open, or what was dropped
     StartWindowController start { { history, settings, clipboard, exports, links, clock },
         { .openFile = [this] { asked += QStringLiteral("open"); },
             .paste = [this] { asked += QStringLiteral("paste"); },
-            .openEntry = [this](const QUuid &id) { asked += titleOf(id); } } };
+            .openEntry = [this](const QUuid &id) { asked += titleOf(id); },
+            .openDropped = [this](const DroppedContent &content) { asked += content.paths; } } };
 
     /// Puts captures of these titles into the folder, the first the newest: red, with a black mark in the corner.
     QList<HistoryEntry> fill(const QStringList &titles) const

@@ -4,6 +4,8 @@
 #include "tests/support/Rows.h"
 #include "tests/ui/Start/StartFixture.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTimer>
 
 using namespace tessaly;
@@ -106,6 +108,24 @@ private Q_SLOTS:
         press(Qt::Key_O, Qt::ControlModifier);
         QTest::mouseClick(StartFixture::part<QPushButton>("open"), Qt::LeftButton);
         QCOMPARE(fixture.asked, QStringList({ "paste", "paste", "open", "open" }));
+    }
+
+    void whatIsDroppedIsOpened()
+    {
+        StartFixture fixture;
+        fixture.fill(threeTitles);
+        show(fixture);
+        QMimeData data;
+        data.setUrls({ QUrl(QStringLiteral("file:///a/b.tessaly")), QUrl(QStringLiteral("file:///a/c.png")) });
+        for (const char *name : { "historyGrid", "search" }) // neither keeps it
+            QVERIFY2(!StartFixture::part<QWidget>(name)->acceptDrops(), name);
+        auto *view = StartFixture::part<StartView>();
+        QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view, &drop);
+        QTRY_COMPARE(fixture.asked, QStringList({ "/a/b.tessaly", "/a/c.png" }));
     }
 
     void searches()

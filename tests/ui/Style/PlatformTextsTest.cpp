@@ -15,7 +15,7 @@ class PlatformTextsTest : public QObject {
 
     static QRegularExpression foreignWords()
     {
-        return QRegularExpression(QStringLiteral("\\b(mac|macos|finder|dock|retina|system settings|menu bar icon)\\b|[⌘⌥⌃⇧⌫]"),
+        return QRegularExpression(QStringLiteral("\\b(mac|macos|finder|dock|retina|system settings|menu bar)\\b|[⌘⌥⌃⇧⌫]"),
             QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     }
 
@@ -59,7 +59,8 @@ private Q_SLOTS:
         for (const auto &row : PlatformTexts::rows())
             sources += QString::fromUtf8(row.source);
         for (const QString &text : literals) {
-            if (text.contains(foreignWords()) && !sources.contains(text))
+            const bool isStoredKeyLabel = text.size() == 1; // core/Hotkey shows the names of this desktop
+            if (!isStoredKeyLabel && text.contains(foreignWords()) && !sources.contains(text))
                 missing += text;
         }
         QCOMPARE(missing, QStringList());

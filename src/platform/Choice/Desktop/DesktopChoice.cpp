@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Choice/Desktop/DesktopChoice.h"
 
+#include "platform/Choice/PlatformChoice.h"
+#include "platform/portal/PortalHotkeys.h"
 #include "platform/wayland/Surfaces/DataControlClipboard.h"
 #include "platform/wayland/Surfaces/WaylandLayers.h"
+#include "platform/x11/X11Hotkeys.h"
 #include "platform/x11/X11Layers.h"
 
 #include <QGuiApplication>
@@ -33,5 +36,18 @@ std::unique_ptr<WindowLayers> windowLayers()
 bool windowsPlaceThemselves() { return !isWayland(); }
 
 std::unique_ptr<Clipboard> ownClipboard() { return isWayland() ? DataControlClipboard::create() : nullptr; }
+
+std::unique_ptr<HotkeyBackend> hotkeys()
+{
+    using PlatformChoice::Platform;
+    // Where nobody sees the windows, nobody presses keys for them; a test may say otherwise.
+    const bool hasPerson = isWayland() || QGuiApplication::platformName() == u"xcb";
+    const auto platform = PlatformChoice::platform();
+    if (!platform || !(hasPerson || PlatformChoice::isForced()))
+        return std::make_unique<MissingHotkeys>();
+    if (*platform == Platform::X11)
+        return std::make_unique<X11Hotkeys>();
+    return std::make_unique<PortalHotkeys>();
+}
 
 } // namespace tessaly::DesktopChoice

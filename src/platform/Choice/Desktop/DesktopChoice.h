@@ -3,6 +3,7 @@
 
 #include "core/Desktop/Clipboard.h"
 #include "core/Desktop/WindowLayers.h"
+#include "core/Hotkey/HotkeyBackend.h"
 
 #include <memory>
 
@@ -23,5 +24,8 @@ bool windowsPlaceThemselves();
 
 /// The session's clipboard where Qt's does not do; null where Qt's does.
 std::unique_ptr<Clipboard> ownClipboard();
+
+/// How this desktop lets a program hear key combinations; one that offers nothing where it does not.
+std::unique_ptr<HotkeyBackend> hotkeys();
 
 } // namespace tessaly::DesktopChoice

@@ -16,8 +16,6 @@ namespace {
 
 bool isCropping(const OptionSubject &subject) { return subject.topic == OptionSubject::Topic::Crop; }
 
-QString translated(const char *text) { return QCoreApplication::translate("Options", text); }
-
 QSpinBox *pixelField(const QString &name, int maximum)
 {
     auto *field = new QSpinBox;
@@ -37,16 +35,17 @@ OptionItem CropOptions::aspect()
     QStringList texts;
     for (const auto &row : optionLabels<CropAspect>)
         texts += label(row.value);
-    QComboBox *aspect = OptionControls::choice(translated("Aspect Ratio"), texts);
+    QComboBox *aspect = OptionControls::choice(QCoreApplication::translate("Options", "Aspect Ratio"), texts);
     aspect->setObjectName(QStringLiteral("cropAspect"));
     connect(aspect, &QComboBox::activated, this,
         [this](int index) { m_store.setCropAspect(optionLabels<CropAspect>[size_t(index)].value); });
-    return { OptionControls::titled(translated("Aspect"), aspect), isCropping, [this, aspect](const OptionSubject &) {
-                for (size_t index = 0; index < optionLabels<CropAspect>.size(); ++index) {
-                    if (optionLabels<CropAspect>[index].value == m_store.cropAspect())
-                        aspect->setCurrentIndex(int(index));
-                }
-            } };
+    return { OptionControls::titled(QCoreApplication::translate("Options", "Aspect"), aspect), isCropping,
+        [this, aspect](const OptionSubject &) {
+            for (size_t index = 0; index < optionLabels<CropAspect>.size(); ++index) {
+                if (optionLabels<CropAspect>[index].value == m_store.cropAspect())
+                    aspect->setCurrentIndex(int(index));
+            }
+        } };
 }
 
 OptionItem CropOptions::size()
@@ -57,12 +56,12 @@ OptionItem CropOptions::size()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     const QSize pixels = m_store.pixelDimensions();
-    m_width = pixelField(translated("Width in pixels"), std::max(1, pixels.width()));
-    m_height = pixelField(translated("Height in pixels"), std::max(1, pixels.height()));
+    m_width = pixelField(QCoreApplication::translate("Options", "Width in pixels"), std::max(1, pixels.width()));
+    m_height = pixelField(QCoreApplication::translate("Options", "Height in pixels"), std::max(1, pixels.height()));
     layout->addWidget(m_width);
     layout->addWidget(new QLabel(QStringLiteral("×")));
     layout->addWidget(m_height);
-    layout->addWidget(new QLabel(translated("pixels")));
+    layout->addWidget(new QLabel(QCoreApplication::translate("Options", "pixels")));
     connect(m_width, &QSpinBox::valueChanged, this, [this](int width) { m_store.setCropWidth(width); });
     connect(m_height, &QSpinBox::valueChanged, this, [this](int height) { m_store.setCropHeight(height); });
     return { fields, isCropping, [this](const OptionSubject &) {
@@ -78,8 +77,8 @@ OptionItem CropOptions::size()
 
 OptionItem CropOptions::lock()
 {
-    auto *lock = OptionControls::toggle(translated("Lock Ratio"), QLatin1StringView("lock"),
-        translated("Keep the present ratio of width to height (Shift while dragging)"));
+    auto *lock = OptionControls::toggle(QCoreApplication::translate("Options", "Lock Ratio"), QLatin1StringView("lock"),
+        QCoreApplication::translate("Options", "Keep the present ratio of width to height (Shift while dragging)"));
     lock->setObjectName(QStringLiteral("cropLock"));
     connect(lock, &QToolButton::clicked, this, [this](bool on) { m_store.setCropLock(on); });
     return { lock, isCropping, [this, lock](const OptionSubject &) {
@@ -107,9 +106,10 @@ QList<OptionItem> CropOptions::makeItems()
         aspect(),
         size(),
         lock(),
-        ending("cropCancel", translated("Cancel"), translated("Leave the picture as it is (Esc)"),
-            &CropOptions::cancelRequested),
-        ending("cropApply", translated("Crop"), translated("Cut the picture to the rectangle (Return)"),
+        ending("cropCancel", QCoreApplication::translate("Options", "Cancel"),
+            QCoreApplication::translate("Options", "Leave the picture as it is (Esc)"), &CropOptions::cancelRequested),
+        ending("cropApply", QCoreApplication::translate("Options", "Crop"),
+            QCoreApplication::translate("Options", "Cut the picture to the rectangle (Return)"),
             &CropOptions::applyRequested),
     };
 }

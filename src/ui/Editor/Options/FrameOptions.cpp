@@ -96,10 +96,10 @@ void FrameOptions::setOn(bool on)
 
 OptionItem FrameOptions::switchItem()
 {
-    auto *on = new QCheckBox(translated("Frame"));
+    auto *on = new QCheckBox(QCoreApplication::translate("Options", "Frame"));
     on->setObjectName(QStringLiteral("frameOn"));
-    on->setToolTip(translated("Present the screenshot on a background"));
-    on->setAccessibleName(translated("Frame"));
+    on->setToolTip(QCoreApplication::translate("Options", "Present the screenshot on a background"));
+    on->setAccessibleName(QCoreApplication::translate("Options", "Frame"));
     on->setFocusPolicy(Qt::TabFocus);
     connect(on, &QCheckBox::clicked, this, &FrameOptions::setOn);
     return { on, isFrame, [this, on](const OptionSubject &) { on->setChecked(m_store.frame().has_value()); } };
@@ -121,8 +121,8 @@ SwatchButton *FrameOptions::addSwatch(QGridLayout &grid, int row, int column, co
 
 void FrameOptions::pickSolid(QWidget *parent)
 {
-    const QColor color
-        = QColorDialog::getColor(ColorHex::toColor(frame().solidHex), parent, translated("Background Color"));
+    const QColor color = QColorDialog::getColor(
+        ColorHex::toColor(frame().solidHex), parent, QCoreApplication::translate("Options", "Background Color"));
     if (color.isValid()) {
         change([&](FrameStyle &style) {
             style.background = FrameBackgroundKind::Solid;
@@ -138,7 +138,7 @@ void FrameOptions::fillBackgroundPanel(PopoverButton &button)
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(8);
     button.content().addLayout(grid);
-    grid->addWidget(new QLabel(translated("Gradient")), 0, 0);
+    grid->addWidget(new QLabel(QCoreApplication::translate("Options", "Gradient")), 0, 0);
     int column = 1;
     for (const FrameStyle::Gradient &gradient : FrameStyle::gradients) {
         const QStringList colors { QLatin1StringView(gradient.colors[0]), QLatin1StringView(gradient.colors[1]) };
@@ -148,21 +148,21 @@ void FrameOptions::fillBackgroundPanel(PopoverButton &button)
                 style.gradientColors = colors;
             });
     }
-    grid->addWidget(new QLabel(translated("Solid")), 1, 0);
+    grid->addWidget(new QLabel(QCoreApplication::translate("Options", "Solid")), 1, 0);
     column = 1;
     for (const char *hex : FrameStyle::solidSwatches) {
-        addSwatch(*grid, 1, column++, { QLatin1StringView(hex) }, translated("Solid %1").arg(QLatin1StringView(hex)),
-            [hex](FrameStyle &style) {
+        addSwatch(*grid, 1, column++, { QLatin1StringView(hex) },
+            QCoreApplication::translate("Options", "Solid %1").arg(QLatin1StringView(hex)), [hex](FrameStyle &style) {
                 style.background = FrameBackgroundKind::Solid;
                 style.solidHex = QLatin1StringView(hex);
             });
     }
-    m_otherSolid = new SwatchButton({}, translated("Other Color…"));
+    m_otherSolid = new SwatchButton({}, QCoreApplication::translate("Options", "Other Color…"));
     m_otherSolid->setCheckable(true);
     grid->addWidget(m_otherSolid, 1, column);
     connect(m_otherSolid, &QAbstractButton::clicked, this, [this, &button] { pickSolid(&button); });
-    grid->addWidget(new QLabel(translated("Transparent")), 2, 0);
-    addSwatch(*grid, 2, 1, {}, translated("Transparent"),
+    grid->addWidget(new QLabel(QCoreApplication::translate("Options", "Transparent")), 2, 0);
+    addSwatch(*grid, 2, 1, {}, QCoreApplication::translate("Options", "Transparent"),
         [](FrameStyle &style) { style.background = FrameBackgroundKind::Transparent; });
 }
 
@@ -187,8 +187,9 @@ OptionItem FrameOptions::background()
     auto *layout = new QHBoxLayout(both);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
-    auto *button = new PopoverButton(translated("Background"), translated("Gradient, color or transparency"));
-    m_current = new SwatchButton({}, translated("Background"));
+    auto *button = new PopoverButton(QCoreApplication::translate("Options", "Background"),
+        QCoreApplication::translate("Options", "Gradient, color or transparency"));
+    m_current = new SwatchButton({}, QCoreApplication::translate("Options", "Background"));
     m_current->setFocusPolicy(Qt::NoFocus);
     connect(m_current, &QAbstractButton::clicked, button, &QAbstractButton::click);
     layout->addWidget(m_current);
@@ -223,7 +224,8 @@ OptionItem FrameOptions::aspect()
     QStringList texts;
     for (const auto &row : optionLabels<CropAspect>)
         texts += label(row.value);
-    QComboBox *aspect = OptionControls::choice(translated("Aspect ratio of the framed picture"), texts);
+    QComboBox *aspect
+        = OptionControls::choice(QCoreApplication::translate("Options", "Aspect ratio of the framed picture"), texts);
     aspect->setObjectName(QStringLiteral("frameAspect"));
     connect(aspect, &QComboBox::activated, this, [this](int index) {
         change([index](FrameStyle &style) { style.aspect = optionLabels<CropAspect>[size_t(index)].value; });
@@ -240,10 +242,11 @@ OptionItem FrameOptions::aspect()
 
 OptionItem FrameOptions::applyToNew()
 {
-    auto *always = new QCheckBox(translated("Apply to new captures"));
+    auto *always = new QCheckBox(QCoreApplication::translate("Options", "Apply to new captures"));
     always->setObjectName(QStringLiteral("frameApplyAlways"));
-    always->setToolTip(translated("New captures open with this frame and watermark. Off by default, so captures stay "
-                                  "exactly as taken."));
+    always->setToolTip(QCoreApplication::translate("Options",
+        "New captures open with this frame and watermark. Off by default, so captures stay "
+        "exactly as taken."));
     always->setAccessibleName(always->text());
     always->setAccessibleDescription(always->toolTip());
     always->setFocusPolicy(Qt::TabFocus);

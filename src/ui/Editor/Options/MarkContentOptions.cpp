@@ -14,8 +14,6 @@ namespace tessaly {
 
 namespace {
 
-QString translated(const char *text) { return QCoreApplication::translate("Options", text); }
-
 bool isSelectedStamp(const OptionSubject &subject)
 {
     return subject.topic == OptionSubject::Topic::Marks && subject.isSelection && subject.kind == AnnotationKind::Stamp;
@@ -31,9 +29,9 @@ OptionItem MarkContentOptions::caption()
 {
     auto *field = new QLineEdit;
     field->setObjectName(QStringLiteral("stampLabel"));
-    field->setPlaceholderText(translated("Label"));
-    field->setToolTip(translated("A caption beside the stamp"));
-    field->setAccessibleName(translated("Label"));
+    field->setPlaceholderText(QCoreApplication::translate("Options", "Label"));
+    field->setToolTip(QCoreApplication::translate("Options", "A caption beside the stamp"));
+    field->setAccessibleName(QCoreApplication::translate("Options", "Label"));
     field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 16);
     field->installEventFilter(this);
     connect(field, &QLineEdit::textEdited, this, [this](const QString &text) {
@@ -49,8 +47,8 @@ OptionItem MarkContentOptions::caption()
 
 OptionItem MarkContentOptions::tail()
 {
-    auto *tail = OptionControls::toggle(
-        translated("Tail"), QLatin1StringView("tail"), translated("A tail that points away from the stamp"));
+    auto *tail = OptionControls::toggle(QCoreApplication::translate("Options", "Tail"), QLatin1StringView("tail"),
+        QCoreApplication::translate("Options", "A tail that points away from the stamp"));
     tail->setObjectName(QStringLiteral("stampTail"));
     connect(tail, &QToolButton::clicked, this, [this](bool on) {
         m_store.updateSelection(Undo::Record,
@@ -64,8 +62,8 @@ OptionItem MarkContentOptions::tail()
 
 OptionItem MarkContentOptions::disc()
 {
-    auto *disc
-        = OptionControls::toggle(translated("Disc"), QLatin1StringView("disc"), translated("A disc behind the sign"));
+    auto *disc = OptionControls::toggle(QCoreApplication::translate("Options", "Disc"), QLatin1StringView("disc"),
+        QCoreApplication::translate("Options", "A disc behind the sign"));
     disc->setObjectName(QStringLiteral("stampDisc"));
     connect(disc, &QToolButton::clicked, this,
         [this](bool on) { m_store.updateSelection(Undo::Record, [on](Annotation &mark) { mark.disc = on; }); });
@@ -77,8 +75,8 @@ OptionItem MarkContentOptions::disc()
 
 OptionItem MarkContentOptions::chooseImage()
 {
-    auto *choose = OptionControls::button(
-        translated("Choose Image…"), {}, translated("Choose a picture to put onto the screenshot"));
+    auto *choose = OptionControls::button(QCoreApplication::translate("Options", "Choose Image…"), {},
+        QCoreApplication::translate("Options", "Choose a picture to put onto the screenshot"));
     choose->setObjectName(QStringLiteral("chooseImage"));
     connect(choose, &QToolButton::clicked, this, &MarkContentOptions::imageRequested);
     return { choose,

@@ -119,7 +119,7 @@ OptionItem MarkStyleOptions::colors()
     QStringList palette;
     for (const char *color : paletteColors)
         palette += QLatin1StringView(color);
-    auto *swatches = new ColorSwatches(translated("Color"), palette, true);
+    auto *swatches = new ColorSwatches(QCoreApplication::translate("Options", "Color"), palette, true);
     swatches->setObjectName(QStringLiteral("color"));
     connect(swatches, &ColorSwatches::picked, this,
         [this](const QString &hex) { change([&](ToolStyle &style) { style.colorHex = hex; }); });
@@ -174,9 +174,9 @@ OptionItem MarkStyleOptions::choice(unsigned kindSet, const char *name, const ch
 
 OptionItem MarkStyleOptions::shape(AnnotationKind kind, const char *name, bool ToolStyle::*isRound)
 {
-    auto *choice = new IconChoice(translated("Shape"),
-        { { translated("Round"), QStringLiteral("ellipse") },
-            { translated("Rectangle"), QStringLiteral("rectangle") } });
+    auto *choice = new IconChoice(QCoreApplication::translate("Options", "Shape"),
+        { { QCoreApplication::translate("Options", "Round"), QStringLiteral("ellipse") },
+            { QCoreApplication::translate("Options", "Rectangle"), QStringLiteral("rectangle") } });
     choice->setObjectName(QLatin1StringView(name));
     connect(choice, &IconChoice::chosen, this,
         [this, isRound](int index) { change([&](ToolStyle &style) { style.*isRound = index == 0; }); });
@@ -188,14 +188,14 @@ OptionItem MarkStyleOptions::font()
 {
     auto *fonts = new QComboBox;
     const QStringList families = QFontDatabase::families();
-    fonts->addItem(translated("System Font"), QString());
+    fonts->addItem(QCoreApplication::translate("Options", "System Font"), QString());
     for (const QString &family : families) {
         if (!QFontDatabase::isPrivateFamily(family))
             fonts->addItem(family, family);
     }
     fonts->setObjectName(QStringLiteral("textFont"));
-    fonts->setToolTip(translated("Font"));
-    fonts->setAccessibleName(translated("Font"));
+    fonts->setToolTip(QCoreApplication::translate("Options", "Font"));
+    fonts->setAccessibleName(QCoreApplication::translate("Options", "Font"));
     fonts->setFocusPolicy(Qt::TabFocus);
     fonts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     fonts->setMinimumContentsLength(14);

@@ -106,7 +106,8 @@ void WatermarkOptions::useLogo(const QString &path)
 {
     const Result<QByteArray> logo = m_frameSettings.importLogo(path);
     if (!logo) {
-        m_alerts.warn(translated("Couldn't use this image as a watermark"), logo.failure().message);
+        m_alerts.warn(
+            QCoreApplication::translate("Options", "Couldn't use this image as a watermark"), logo.failure().message);
         return;
     }
     change([&](Watermark &mark) {
@@ -117,19 +118,20 @@ void WatermarkOptions::useLogo(const QString &path)
 
 void WatermarkOptions::chooseLogo(QWidget *parent)
 {
-    const QString message = translated("Choose an image for your watermark. Tessaly keeps its own copy.");
-    const QString path = QFileDialog::getOpenFileName(
-        parent, message, {}, translated("Images (*.png *.jpg *.jpeg *.webp *.svg *.gif *.tiff *.tif *.bmp)"));
+    const QString message
+        = QCoreApplication::translate("Options", "Choose an image for your watermark. Tessaly keeps its own copy.");
+    const QString path = QFileDialog::getOpenFileName(parent, message, {},
+        QCoreApplication::translate("Options", "Images (*.png *.jpg *.jpeg *.webp *.svg *.gif *.tiff *.tif *.bmp)"));
     if (!path.isEmpty())
         useLogo(path);
 }
 
 void WatermarkOptions::addSwitch(QVBoxLayout &layout)
 {
-    auto *on = new QCheckBox(translated("Watermark"));
+    auto *on = new QCheckBox(QCoreApplication::translate("Options", "Watermark"));
     on->setObjectName(QStringLiteral("watermarkOn"));
-    on->setToolTip(translated("Draw a text or a logo over the finished picture"));
-    on->setAccessibleName(translated("Watermark"));
+    on->setToolTip(QCoreApplication::translate("Options", "Draw a text or a logo over the finished picture"));
+    on->setAccessibleName(QCoreApplication::translate("Options", "Watermark"));
     connect(on, &QCheckBox::clicked, this, &WatermarkOptions::setOn);
     layout.addWidget(on);
     m_refreshers += [this, on](const Watermark &) { on->setChecked(m_store.watermark().has_value()); };
@@ -137,17 +139,17 @@ void WatermarkOptions::addSwitch(QVBoxLayout &layout)
 
 void WatermarkOptions::addContent(QFormLayout &form, QWidget *panel)
 {
-    QComboBox *kind
-        = OptionControls::choice(translated("Kind of watermark"), { translated("Text"), translated("Logo") });
+    QComboBox *kind = OptionControls::choice(QCoreApplication::translate("Options", "Kind of watermark"),
+        { QCoreApplication::translate("Options", "Text"), QCoreApplication::translate("Options", "Logo") });
     kind->setObjectName(QStringLiteral("watermarkKind"));
     kind->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    form.addRow(translated("Kind"), kind);
-    auto *logo = new QPushButton(translated("Choose Image…"));
+    form.addRow(QCoreApplication::translate("Options", "Kind"), kind);
+    auto *logo = new QPushButton(QCoreApplication::translate("Options", "Choose Image…"));
     logo->setObjectName(QStringLiteral("watermarkLogo"));
-    logo->setToolTip(translated("Choose another logo"));
-    logo->setAccessibleName(translated("Choose another logo"));
+    logo->setToolTip(QCoreApplication::translate("Options", "Choose another logo"));
+    logo->setAccessibleName(QCoreApplication::translate("Options", "Choose another logo"));
     logo->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    form.addRow(translated("Logo"), logo);
+    form.addRow(QCoreApplication::translate("Options", "Logo"), logo);
     connect(logo, &QPushButton::clicked, this, [this, panel] { chooseLogo(panel); });
     connect(kind, &QComboBox::activated, this, [this, panel](int index) {
         const WatermarkKind chosen = index == 0 ? WatermarkKind::Text : WatermarkKind::Image;
@@ -168,13 +170,13 @@ void WatermarkOptions::addText(QFormLayout &form)
 {
     auto *text = new QLineEdit;
     text->setObjectName(QStringLiteral("watermarkText"));
-    text->setPlaceholderText(translated("Your name or notice"));
-    text->setToolTip(translated("The text of the watermark"));
-    text->setAccessibleName(translated("Watermark text"));
+    text->setPlaceholderText(QCoreApplication::translate("Options", "Your name or notice"));
+    text->setToolTip(QCoreApplication::translate("Options", "The text of the watermark"));
+    text->setAccessibleName(QCoreApplication::translate("Options", "Watermark text"));
     text->setMinimumWidth(text->fontMetrics().averageCharWidth() * 28);
     text->installEventFilter(this);
-    form.addRow(translated("Text"), text);
-    auto *missing = new QLabel(translated("Nothing is drawn until there is a text."));
+    form.addRow(QCoreApplication::translate("Options", "Text"), text);
+    auto *missing = new QLabel(QCoreApplication::translate("Options", "Nothing is drawn until there is a text."));
     missing->setObjectName(QStringLiteral("watermarkTextMissing"));
     form.addRow(QString(), missing);
     connect(text, &QLineEdit::textEdited, this,
@@ -193,10 +195,10 @@ void WatermarkOptions::addColors(QFormLayout &form)
     QStringList colors;
     for (const char *hex : Watermark::textColors)
         colors += QLatin1StringView(hex);
-    auto *swatches = new ColorSwatches(translated("Color"), colors, false);
+    auto *swatches = new ColorSwatches(QCoreApplication::translate("Options", "Color"), colors, false);
     swatches->setObjectName(QStringLiteral("watermarkColor"));
     swatches->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    form.addRow(translated("Color"), swatches);
+    form.addRow(QCoreApplication::translate("Options", "Color"), swatches);
     connect(swatches, &ColorSwatches::picked, this,
         [this](const QString &hex) { change([&](Watermark &mark) { mark.colorHex = hex; }); });
     m_refreshers += [swatches, &form](const Watermark &mark) {
@@ -227,7 +229,7 @@ void WatermarkOptions::addPositions(QFormLayout &form)
     connect(group, &QButtonGroup::idClicked, this,
         [this](int id) { change([id](Watermark &mark) { mark.position = positions[id].position; }); });
     cells->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    form.addRow(translated("Position"), cells);
+    form.addRow(QCoreApplication::translate("Options", "Position"), cells);
     m_refreshers += [group](const Watermark &mark) {
         for (int id = 0; id < int(std::size(positions)); ++id) {
             if (positions[id].position == mark.position)
@@ -256,7 +258,8 @@ void WatermarkOptions::addSliders(QFormLayout &form)
 
 OptionItem WatermarkOptions::makeItem()
 {
-    auto *button = new PopoverButton(translated("Watermark"), translated("A text or a logo over the finished picture"));
+    auto *button = new PopoverButton(QCoreApplication::translate("Options", "Watermark"),
+        QCoreApplication::translate("Options", "A text or a logo over the finished picture"));
     button->setObjectName(QStringLiteral("watermark"));
     addSwitch(button->content());
     auto *details = new QWidget;

@@ -35,6 +35,37 @@ private Q_SLOTS:
         QTEST(qEnvironmentVariableIsSet(variable), "set");
     }
 
+    /// Without a display or a bus none offers anything; the type tells what was chosen.
+    void hotKeysComeFromTheSession_data()
+    {
+        QTest::addColumn<QByteArray>("forced");
+        QTest::addColumn<QByteArray>("wayland");
+        QTest::addColumn<QByteArray>("type");
+        QTest::newRow("nobody sees the windows") << QByteArray() << QByteArray() << QByteArray("Missing");
+        QTest::newRow("X11") << QByteArray("x11") << QByteArray("wayland-1") << QByteArray("X11");
+        QTest::newRow("Wayland") << QByteArray("wayland") << QByteArray() << QByteArray("Portal");
+        QTest::newRow("the portal") << QByteArray("portal") << QByteArray() << QByteArray("Portal");
+        QTest::newRow("none") << QByteArray("none") << QByteArray("wayland-1") << QByteArray("Missing");
+    }
+
+    void hotKeysComeFromTheSession()
+    {
+        QFETCH(QByteArray, forced);
+        QFETCH(QByteArray, wayland);
+        QFETCH(QByteArray, type);
+        qputenv("TESSALY_PLATFORM", forced);
+        qputenv("WAYLAND_DISPLAY", wayland);
+        qputenv("DISPLAY", ":3999");
+        qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+        qunsetenv("XDG_RUNTIME_DIR");
+        const auto hotkeys = DesktopChoice::hotkeys();
+        const HotkeyBackend &chosen = *hotkeys;
+        QVERIFY2(QByteArray(typeid(chosen).name()).contains(type + "Hotkeys"), typeid(chosen).name());
+        QCOMPARE(chosen.ability(), HotkeyBackend::Ability::None);
+        qunsetenv("TESSALY_PLATFORM");
+        qunsetenv("WAYLAND_DISPLAY");
+    }
+
     void withoutWaylandQtsClipboardDoes()
     {
         QVERIFY(!DesktopChoice::ownClipboard());
