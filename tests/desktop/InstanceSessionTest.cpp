@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/DesktopSession.h"
+#include "tests/support/PatientTest.h"
 
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTest>
 
 #include <array>
 #include <csignal>
@@ -49,13 +49,13 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(
             std::ranges::count_if(others, [](auto &other) { return other->state() == QProcess::NotRunning; })
                 + (m_session.isRunning() ? 0 : 1),
-            2, 20'000);
+            2, patience);
         for (const auto &other : others)
             QCOMPARE(other->exitCode(), 0);
         ask({ "org.tessaly.Automation1.Quit" });
-        QTRY_VERIFY_WITH_TIMEOUT(!m_session.isRunning(), 20'000);
+        QTRY_VERIFY(!m_session.isRunning());
         for (const auto &other : others)
-            QTRY_COMPARE_WITH_TIMEOUT(other->state(), QProcess::NotRunning, 20'000);
+            QTRY_COMPARE_WITH_TIMEOUT(other->state(), QProcess::NotRunning, patience);
     }
 
     void withoutATrayItSaysHowItIsReached()
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(ask({ "org.tessaly.Automation1.CaptureRegion", "clipboard" }), "()\n");
         QVERIFY(m_session.tree().find(QStringLiteral("Select what to capture")));
         m_session.drag({ { 101, 203 }, { 332, 404 } });
-        QTRY_COMPARE_WITH_TIMEOUT(m_session.clipboardPicture().size(), QSize(231, 201), 20'000);
+        QTRY_COMPARE_WITH_TIMEOUT(m_session.clipboardPicture().size(), QSize(231, 201), patience);
     }
 
     /// Nobody is asked, and nobody is waited for.
