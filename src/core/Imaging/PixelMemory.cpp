@@ -3,6 +3,7 @@
 
 #include "core/Base/Parallel.h"
 
+#include <atomic>
 #include <sys/mman.h>
 
 #ifdef __GLIBC__
@@ -41,19 +42,53 @@ QImage allocate(QSize pixelSize, QImage::Format format)
     return QImage(memory, pixelSize.width(), pixelSize.height(), qsizetype(bytesPerLine), format, std::free, memory);
 }
 
-void populate(uchar *memory, std::size_t count, [[maybe_unused]] int threads)
-{
+namespace {
+
+/// The huge pages' worth of memory from `memory` to `end`.
+struct Pieces {
+    Pieces(uchar *memory, std::size_t count) :
+        begin(reinterpret_cast<std::uintptr_t>(memory) / page * page),
+        end(reinterpret_cast<std::uintptr_t>(memory) + count),
+        count(static_cast<int>((end - begin + hugePageBytes - 1) / hugePageBytes))
+    {
+    }
+
+    void populate([[maybe_unused]] int index) const
+    {
 #ifdef MADV_POPULATE_WRITE
-    constexpr std::uintptr_t page = 4096;
-    const auto begin = reinterpret_cast<std::uintptr_t>(memory) / page * page;
-    const std::uintptr_t end = reinterpret_cast<std::uintptr_t>(memory) + count;
-    const auto pieces = static_cast<int>((end - begin + hugePageBytes - 1) / hugePageBytes);
-    Parallel::forEach(pieces, threads, [=](int piece) {
-        const std::uintptr_t from = begin + static_cast<std::uintptr_t>(piece) * hugePageBytes;
+        const std::uintptr_t from = begin + static_cast<std::uintptr_t>(index) * hugePageBytes;
         ::madvise(
             reinterpret_cast<void *>(from), std::min<std::uintptr_t>(hugePageBytes, end - from), MADV_POPULATE_WRITE);
-    });
 #endif
+    }
+
+    static constexpr std::uintptr_t page = 4096;
+    std::uintptr_t begin;
+    std::uintptr_t end;
+    int count;
+};
+
+} // namespace
+
+void populate(uchar *memory, std::size_t count, int threads)
+{
+    const Pieces pieces(memory, count);
+    Parallel::forEach(pieces.count, threads, [&](int piece) { pieces.populate(piece); });
+}
+
+void populateBeside(const std::function<void()> &fill, uchar *memory, std::size_t count, int threads)
+{
+    const Pieces pieces(memory, count);
+    std::atomic<bool> isFilled = false;
+    const auto fillAndStop = [&] {
+        fill();
+        isFilled = true;
+    };
+    // Two pieces are filled as soon as another thread has begun.
+    Parallel::forEachBeside(fillAndStop, pieces.count, pieces.count > 2 ? threads : 1, [&](int piece) {
+        if (!isFilled)
+            pieces.populate(pieces.count - 1 - piece);
+    });
 }
 
 void shareHeap()

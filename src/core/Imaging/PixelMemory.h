@@ -4,6 +4,7 @@
 #include <QImage>
 
 #include <cstdlib>
+#include <functional>
 #include <memory>
 
 namespace tessaly::PixelMemory {
@@ -23,6 +24,9 @@ QImage allocate(QSize pixelSize, QImage::Format format);
 /// Faults in the pages of memory that is about to be written, in large pieces: the first writing would lose more time.
 /// The content stays. Nothing is lost where the system cannot do it.
 void populate(uchar *memory, std::size_t count, int threads);
+
+/// The same, from the end, while the calling thread does `fill`, which writes to the memory from its beginning.
+void populateBeside(const std::function<void()> &fill, uchar *memory, std::size_t count, int threads);
 
 /// Has all threads share one heap, from here on: what is free at the end of a thread's own heap would not go back to
 /// the system. For programs whose threads seldom ask for memory.

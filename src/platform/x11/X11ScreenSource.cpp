@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/X11ScreenSource.h"
 
+#include "core/Base/Parallel.h"
 #include "core/Imaging/PixelMemory.h"
 #include "platform/x11/DesktopIcons.h"
 #include "platform/x11/DrawablePixels.h"
@@ -144,12 +145,16 @@ QImage X11ScreenSource::captureInStrips(const QRect &pixelRect)
     // Nobody draws between two strips, so they show one moment. The server ends the grab of a program that dies.
     xcb_grab_server(m_connection->xcb());
     bool complete = true;
-    for (int first = 0; complete && first < pixelRect.height(); first += rowsInStrip) {
-        const int rows = std::min(rowsInStrip, pixelRect.height() - first);
-        complete = fill(*segment, QRect(pixelRect.x(), pixelRect.y() + first, pixelRect.width(), rows));
-        PixelConversion::copyOpaque(
-            segment->memory(), picture.scanLine(first), bytesPerRow / 4 * static_cast<size_t>(rows));
-    }
+    const auto fetch = [&] {
+        for (int first = 0; complete && first < pixelRect.height(); first += rowsInStrip) {
+            const int rows = std::min(rowsInStrip, pixelRect.height() - first);
+            complete = fill(*segment, QRect(pixelRect.x(), pixelRect.y() + first, pixelRect.width(), rows));
+            PixelConversion::copyOpaque(
+                segment->memory(), picture.scanLine(first), bytesPerRow / 4 * static_cast<size_t>(rows));
+        }
+    };
+    PixelMemory::populateBeside(
+        fetch, picture.bits(), static_cast<size_t>(picture.sizeInBytes()), Parallel::defaultThreadCount());
     xcb_ungrab_server(m_connection->xcb());
     xcb_flush(m_connection->xcb());
     return complete ? picture : QImage();

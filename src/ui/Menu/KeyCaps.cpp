@@ -3,6 +3,7 @@
 
 #include "ui/Style/Appearance.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
 
@@ -16,12 +17,11 @@ constexpr int rim = 2; ///< the front of the cap, seen below it
 
 struct Modifier {
     Qt::KeyboardModifier flag;
-    const char *portable;
+    const char *name; ///< as Qt's own translations know it, which also name the keys in menus
 };
 
-/// The native text of a modifier ends with its plus sign.
-constexpr Modifier modifiers[] = { { Qt::ControlModifier, "Ctrl+" }, { Qt::AltModifier, "Alt+" },
-    { Qt::ShiftModifier, "Shift+" }, { Qt::MetaModifier, "Meta+" } };
+constexpr Modifier modifiers[] = { { Qt::ControlModifier, "Ctrl" },
+    { Qt::AltModifier, "Alt" }, { Qt::ShiftModifier, "Shift" }, { Qt::MetaModifier, "Meta" } };
 
 } // namespace
 
@@ -32,7 +32,7 @@ QStringList keyNames(const QKeySequence &combination)
     QStringList names;
     for (const Modifier &modifier : modifiers) {
         if (combination[0].keyboardModifiers() & modifier.flag)
-            names += QString::fromLatin1(modifier.portable).chopped(1);
+            names += QCoreApplication::translate("QShortcut", modifier.name);
     }
     const QString key = QKeySequence(combination[0].key()).toString(QKeySequence::NativeText);
     return names << (key == u"-" ? QStringLiteral("−") : key);

@@ -12,8 +12,6 @@ namespace tessaly::PreferenceOptions {
 
 namespace {
 
-QString tr(const char *text) { return preferenceText(text); }
-
 QString iconOf(const OptionLabel<ArrowHeadStyle> &row) { return QStringLiteral("arrowhead-") + rawValue(row.value); }
 QString iconOf(const OptionLabel<StampKind> &row) { return QLatin1StringView(row.symbol); }
 QString iconOf(const OptionLabel<ObscureStyle> &row)
@@ -37,9 +35,9 @@ Options labelled()
 Options appearances()
 {
     return {
-        { QStringLiteral("system"), tr(QT_TRANSLATE_NOOP("Preferences", "System")) },
-        { QStringLiteral("light"), tr(QT_TRANSLATE_NOOP("Preferences", "Light")) },
-        { QStringLiteral("dark"), tr(QT_TRANSLATE_NOOP("Preferences", "Dark")) },
+        { QStringLiteral("system"), preferenceText(QT_TRANSLATE_NOOP("Preferences", "System")) },
+        { QStringLiteral("light"), preferenceText(QT_TRANSLATE_NOOP("Preferences", "Light")) },
+        { QStringLiteral("dark"), preferenceText(QT_TRANSLATE_NOOP("Preferences", "Dark")) },
     };
 }
 
@@ -49,7 +47,7 @@ Options languages()
     for (const AppLanguage &language : appLanguages) {
         const QString name = QString::fromUtf8(language.ownName);
         options += { QString::fromLatin1(language.code),
-            name.isEmpty() ? tr(QT_TRANSLATE_NOOP("Preferences", "System")) : name };
+            name.isEmpty() ? preferenceText(QT_TRANSLATE_NOOP("Preferences", "System")) : name };
     }
     return options;
 }
@@ -57,8 +55,8 @@ Options languages()
 Options corners()
 {
     return {
-        { QStringLiteral("bottomRight"), tr(QT_TRANSLATE_NOOP("Preferences", "Bottom right")) },
-        { QStringLiteral("bottomLeft"), tr(QT_TRANSLATE_NOOP("Preferences", "Bottom left")) },
+        { QStringLiteral("bottomRight"), preferenceText(QT_TRANSLATE_NOOP("Preferences", "Bottom right")) },
+        { QStringLiteral("bottomLeft"), preferenceText(QT_TRANSLATE_NOOP("Preferences", "Bottom left")) },
     };
 }
 
@@ -82,7 +80,7 @@ QString otherDelay(int seconds)
 {
     if (seconds < 1)
         return QCoreApplication::translate("CaptureDelays", captureDelays[0].title);
-    return tr(QT_TRANSLATE_NOOP("Preferences", "%1 seconds")).arg(seconds);
+    return preferenceText(QT_TRANSLATE_NOOP("Preferences", "%1 seconds")).arg(seconds);
 }
 
 Options arrowHeads() { return labelled<ArrowHeadStyle>(); }
@@ -92,8 +90,10 @@ Options stamps() { return labelled<StampKind>(); }
 Options spotlightShapes()
 {
     return {
-        { true, tr(QT_TRANSLATE_NOOP("Preferences", "Ellipse")), Icons::icon(QLatin1StringView("ellipse")) },
-        { false, tr(QT_TRANSLATE_NOOP("Preferences", "Rectangle")), Icons::icon(QLatin1StringView("rectangle")) },
+        { true, preferenceText(QT_TRANSLATE_NOOP("Preferences", "Ellipse")),
+            Icons::icon(QLatin1StringView("ellipse")) },
+        { false, preferenceText(QT_TRANSLATE_NOOP("Preferences", "Rectangle")),
+            Icons::icon(QLatin1StringView("rectangle")) },
     };
 }
 
