@@ -1301,8 +1301,8 @@ Strg+Umschalt+P findet jeden Befehl, jede Einstellung und jedes Werkzeug beim Na
         <translation>Jeden Befehl finden</translation>
     </message>
     <message>
-        <source>Press Ctrl+Shift+P in any window and type: commands, settings and tools are one word away.</source>
-        <translation>In einem beliebigen Fenster Strg+Umschalt+P drücken und tippen: Befehle, Einstellungen und Werkzeuge sind ein Wort entfernt.</translation>
+        <source>Press Ctrl+Shift+P and type: commands, settings and tools are one word away.</source>
+        <translation>Strg+Umschalt+P drücken und tippen: Befehle, Einstellungen und Werkzeuge sind ein Wort entfernt.</translation>
     </message>
     <message>
         <source>Still yours alone</source>
@@ -1817,6 +1817,13 @@ Strg+Umschalt+P findet jeden Befehl, jede Einstellung und jedes Werkzeug beim Na
     <message>
         <source>Deleted %1 captures from the history.</source>
         <translation>%1 Aufnahmen wurden aus dem Verlauf gelöscht.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTitle</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
     </message>
 </context>
 <context>
@@ -3106,10 +3113,6 @@ Ersetzen?</translation>
     <message>
         <source>It has been opened as a copy, so saving won&apos;t remove anything this version doesn&apos;t understand. To keep editing the original, update Tessaly.</source>
         <translation>Es wurde als Kopie geöffnet, damit beim Speichern nichts verloren geht, was diese Version nicht versteht. Um das Original weiterzubearbeiten, Tessaly aktualisieren.</translation>
-    </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>Pasted image</source>

@@ -1301,8 +1301,8 @@ Ctrl+Mayús+P encuentra cualquier comando, ajuste y herramienta por su nombre.</
         <translation>Encontrar cualquier comando</translation>
     </message>
     <message>
-        <source>Press Ctrl+Shift+P in any window and type: commands, settings and tools are one word away.</source>
-        <translation>Pulse Ctrl+Mayús+P en cualquier ventana y escriba: comandos, ajustes y herramientas están a una palabra.</translation>
+        <source>Press Ctrl+Shift+P and type: commands, settings and tools are one word away.</source>
+        <translation>Pulse Ctrl+Mayús+P y escriba: comandos, ajustes y herramientas están a una palabra.</translation>
     </message>
     <message>
         <source>Still yours alone</source>
@@ -1817,6 +1817,13 @@ Ctrl+Mayús+P encuentra cualquier comando, ajuste y herramienta por su nombre.</
     <message>
         <source>Deleted %1 captures from the history.</source>
         <translation>Se eliminaron %1 capturas del historial.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTitle</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
     </message>
 </context>
 <context>
@@ -3106,10 +3113,6 @@ Do you want to replace it?</source>
     <message>
         <source>It has been opened as a copy, so saving won&apos;t remove anything this version doesn&apos;t understand. To keep editing the original, update Tessaly.</source>
         <translation>Se ha abierto como copia para que al guardar no se pierda nada que esta versión no entienda. Para seguir editando el original, actualice Tessaly.</translation>
-    </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Sin título</translation>
     </message>
     <message>
         <source>Pasted image</source>

@@ -1301,8 +1301,8 @@ Ctrl+Maj+P trouve toute commande, tout paramètre et tout outil par son nom.</tr
         <translation>Trouver toute commande</translation>
     </message>
     <message>
-        <source>Press Ctrl+Shift+P in any window and type: commands, settings and tools are one word away.</source>
-        <translation>Appuyez sur Ctrl+Maj+P dans n’importe quelle fenêtre et tapez&#xa0;: commandes, paramètres et outils sont à un mot de vous.</translation>
+        <source>Press Ctrl+Shift+P and type: commands, settings and tools are one word away.</source>
+        <translation>Appuyez sur Ctrl+Maj+P et tapez&#xa0;: commandes, paramètres et outils sont à un mot de vous.</translation>
     </message>
     <message>
         <source>Still yours alone</source>
@@ -1817,6 +1817,13 @@ Ctrl+Maj+P trouve toute commande, tout paramètre et tout outil par son nom.</tr
     <message>
         <source>Deleted %1 captures from the history.</source>
         <translation>%1 captures ont été supprimées de l’historique.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTitle</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
     </message>
 </context>
 <context>
@@ -3106,10 +3113,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>It has been opened as a copy, so saving won&apos;t remove anything this version doesn&apos;t understand. To keep editing the original, update Tessaly.</source>
         <translation>Il a été ouvert en tant que copie, afin que l’enregistrement ne supprime rien de ce que cette version ne comprend pas. Pour continuer à modifier l’original, mettez Tessaly à jour.</translation>
-    </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Sans titre</translation>
     </message>
     <message>
         <source>Pasted image</source>

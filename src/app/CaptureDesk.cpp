@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CaptureDesk.h"
 
+#include "core/Export/PictureTitle.h"
 #include "platform/Choice/PlatformChoice.h"
 
 namespace tessaly {
@@ -32,7 +33,7 @@ CaptureDesk::CaptureDesk(const Surroundings &with) :
     m_router.openEditor = with.openEditor;
     m_router.showThumbnail = [this](const RasterImage &image) { m_thumbnails.show(image); };
     m_pins.openEditor
-        = [open = with.openEditor](RasterImage image) { open(std::move(image), QStringLiteral("Untitled")); };
+        = [open = with.openEditor](RasterImage image) { open(std::move(image), PictureTitle::untitled()); };
     m_watcher.found
         = [this](const RasterImage &image, const QString &name) { m_router.handleSystemScreenshot(image, name); };
 }

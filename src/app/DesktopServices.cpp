@@ -66,7 +66,7 @@ PreferencesController &DesktopServices::preferences()
 {
     if (!m_preferences) {
         m_preferences = std::make_unique<PreferencesController>(PreferencesServices { settings, history, hotkeys(),
-            loginItem, openPanels, alerts, [this] { captureDesk().watcher().chooseFolder(); } });
+            loginItem, openPanels, alerts, editors, [this] { captureDesk().watcher().chooseFolder(); } });
         connect(m_preferences.get(), &PreferencesController::closed, this, &DesktopServices::somethingGone,
             Qt::QueuedConnection);
     }

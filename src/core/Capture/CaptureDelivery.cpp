@@ -4,6 +4,7 @@
 #include "core/Capture/PostCaptureRouter.h"
 #include "core/Desktop/Toasts.h"
 #include "core/Export/ExportService.h"
+#include "core/Export/PictureTitle.h"
 #include "core/Text/TextCopier.h"
 
 #include <QCoreApplication>
@@ -36,7 +37,7 @@ CaptureOutcome route(const CaptureService::Surroundings &with, const CaptureRequ
 {
     switch (request.sink) {
     case CaptureSink::Editor:
-        with.router.handleCapturedImage(image, QStringLiteral("Untitled"), title);
+        with.router.handleCapturedImage(image, PictureTitle::untitled(), title);
         break;
     case CaptureSink::Clipboard:
         toClipboard(with, image, title);

@@ -7,6 +7,7 @@
 #include "core/Desktop/DroppedContent.h"
 #include "core/Desktop/Toasts.h"
 #include "core/Document/RecentDocuments.h"
+#include "core/Export/PictureTitle.h"
 #include "core/Frame/FrameSettings.h"
 #include "core/History/CaptureHistory.h"
 #include "core/Imaging/ImageReading.h"
@@ -218,7 +219,7 @@ bool EditorWindowController::openHistoryEntry(const QUuid &id)
         return true;
     }
     const auto entry = std::ranges::find(history.entries(), id, &HistoryEntry::id);
-    const QString title = entry == history.entries().end() ? tr("Untitled") : entry->title;
+    const QString title = entry == history.entries().end() ? PictureTitle::untitled() : entry->title;
     history.flush(); // an editor that has just closed may have left something to write
     auto loaded = loadedFile(m_services.work, history.packagePath(id), title);
     if (!loaded)
@@ -243,7 +244,7 @@ void EditorWindowController::openEntry(const QUuid &id, const QString &title, Te
 
 void EditorWindowController::openBlank(EditorWindow *tabOf)
 {
-    const QString title = tr("Untitled");
+    const QString title = PictureTitle::untitled();
     EditorView &view = open({ .image = blankImage(), .title = title, .usesRememberedFrame = true, .tabOf = tabOf });
     m_services.history.track(view.store(), title, {}, CaptureHistory::Begin::WithFirstChange);
 }

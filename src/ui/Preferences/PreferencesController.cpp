@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Preferences/PreferencesController.h"
 
+#include "ui/Menu/ProgramKeys.h"
 #include "ui/Preferences/PreferencesWindow.h"
 
 #include <QPointer>
@@ -34,6 +35,7 @@ void PreferencesController::show()
     if (!window) {
         window = new PreferencesWindow(
             { m_implementation->services, m_implementation->binding, m_implementation->startLanguage });
+        addProgramKeys(*window, m_implementation->services.program);
         connect(window, &PreferencesWindow::closed, this, &PreferencesController::closed);
     }
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

@@ -10,6 +10,7 @@ namespace tessaly {
 
 class Alerts;
 class CaptureHistory;
+class CommandTarget;
 class HotkeyService;
 class LoginItem;
 class OpenPanels;
@@ -24,6 +25,7 @@ struct PreferencesServices {
     LoginItem &loginItem;
     OpenPanels &openPanels;
     Alerts &alerts;
+    CommandTarget &program; ///< what the keys of its window do that are no settings
     /// Lets the user choose the folder of the desktop's screenshots; what is to follow from it is the owner's.
     std::function<void()> chooseWatchedFolder = {};
 };

@@ -4,6 +4,7 @@
 #include "core/Capture/PostCaptureRouter.h"
 #include "core/Desktop/Toasts.h"
 #include "core/Export/ExportService.h"
+#include "core/Export/PictureTitle.h"
 #include "core/Text/TextCopier.h"
 #include "ui/QuickAccess/PinnedScreenshotController.h"
 #include "ui/QuickAccess/QuickAccessItem.h"
@@ -185,7 +186,7 @@ void QuickAccessController::Implementation::act(const QuickAccessPanel *panel, Q
         return surroundings.textCopier->copyText(image);
     case QuickAccessAction::Annotate:
         dismiss(*item);
-        return surroundings.router.openEditor(image, QStringLiteral("Untitled"));
+        return surroundings.router.openEditor(image, PictureTitle::untitled());
     case QuickAccessAction::Pin: {
         const QRect near = panel->restingPlace();
         dismiss(*item);

@@ -115,9 +115,9 @@ void StartActions::setClipboardHasImage(bool has)
     m_paste->setAccessibleDescription(m_paste->toolTip());
 }
 
-int StartActions::rowWidth() const
+int StartActions::rowWidth(int gapBetweenGroups) const
 {
-    int width = groupGap * int(m_groups.size() - 1);
+    int width = gapBetweenGroups * int(m_groups.size() - 1);
     for (const QBoxLayout *group : m_groups)
         width += group->sizeHint().width();
     return width;
@@ -134,9 +134,9 @@ QSize StartActions::minimumSizeHint() const
 
 void StartActions::resizeEvent(QResizeEvent *event)
 {
-    const bool isStacked = width() < rowWidth();
+    const bool isStacked = width() < rowWidth(buttonGap);
     m_groupsLayout->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    m_groupsLayout->setSpacing(isStacked ? buttonGap : groupGap);
+    m_groupsLayout->setSpacing(width() < rowWidth(groupGap) ? buttonGap : groupGap);
     QWidget::resizeEvent(event);
 }
 

@@ -60,7 +60,7 @@ protected:
 
 private:
     static QList<StartAction> actionsFor(Requests requests);
-    int rowWidth() const;
+    int rowWidth(int gapBetweenGroups) const;
 
     QBoxLayout *m_groupsLayout;
     QList<QBoxLayout *> m_groups;

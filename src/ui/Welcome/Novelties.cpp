@@ -15,7 +15,7 @@ static constexpr Novelty rows[] = {
             "Tessaly waits as an icon in the tray, with every way to capture, a timer and your pinned screenshots.") },
     { "search", QT_TRANSLATE_NOOP("Novelties", "Find any command"),
         QT_TRANSLATE_NOOP("Novelties",
-            "Press Ctrl+Shift+P in any window and type: commands, settings and tools are one word away.") },
+            "Press Ctrl+Shift+P and type: commands, settings and tools are one word away.") },
     { "lock", QT_TRANSLATE_NOOP("Novelties", "Still yours alone"),
         QT_TRANSLATE_NOOP(
             "Novelties", "Captures are kept only on this computer. Tessaly opens no network connection.") },

@@ -2,6 +2,7 @@
 #include "ui/Welcome/WelcomeController.h"
 
 #include "core/Preferences/Settings.h"
+#include "ui/Menu/ProgramKeys.h"
 #include "ui/Welcome/AboutWindow.h"
 #include "ui/Welcome/HelpWindow.h"
 #include "ui/Welcome/ProgramVersion.h"
@@ -35,6 +36,7 @@ void WelcomeController::Implementation::show(
     QPointer<QDialog> &window = windows[page];
     if (!window || !window->isVisible()) {
         window = make();
+        addProgramKeys(*window, surroundings.program);
         connect(window, &QDialog::finished, &controller, &WelcomeController::closed);
     }
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

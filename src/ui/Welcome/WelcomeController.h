@@ -19,7 +19,7 @@ class WelcomeController : public QObject {
 public:
     struct Surroundings {
         Settings &settings;
-        CommandTarget &program; ///< what the guide's buttons do
+        CommandTarget &program; ///< what the guide's buttons and the keys of the windows do
         /// What the guide says about where Tessaly is to be found: the tray, or that there is none; and the key of a
         /// region, empty where this desktop gives programs no hot keys.
         std::function<bool()> hasTray;

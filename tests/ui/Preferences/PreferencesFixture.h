@@ -7,6 +7,7 @@
 #include "core/Hotkey/HotkeyService.h"
 #include "core/Preferences/Settings.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/RecordingTarget.h"
 #include "ui/Preferences/PreferencesController.h"
 
 #include <QApplication>
@@ -51,7 +52,8 @@ public:
     NoHotkeys backend;
     HotkeyService hotkeys { settings, backend, [](CaptureAction) {} };
     std::function<void()> chooseWatchedFolder = [] {};
-    PreferencesController controller { { settings, history, hotkeys, loginItem, panels, alerts,
+    RecordingTarget program;
+    PreferencesController controller { { settings, history, hotkeys, loginItem, panels, alerts, program,
         [this] { chooseWatchedFolder(); } } };
 
     /// The window, on that tab.

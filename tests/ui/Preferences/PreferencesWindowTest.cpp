@@ -257,6 +257,8 @@ private Q_SLOTS:
         QCOMPARE(m_with->settings.value(SettingKeys::settingsTab), QStringLiteral("editor"));
         window->setGeometry(40, 50, window->width() + 30, window->height() - 20);
         const QRect placed = window->geometry();
+        QTest::keyClick(window, Qt::Key_Q, Qt::ControlModifier); // of the program, which may still ask
+        QCOMPARE(m_with->program.performed, QList { CommandId::Quit });
         QSignalSpy closed(&m_with->controller, &PreferencesController::closed);
         QTest::keyClick(window, Qt::Key_Escape);
         QCOMPARE(closed.size(), 1);
