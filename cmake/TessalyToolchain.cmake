@@ -30,8 +30,10 @@ if(TESSALY_WERROR)
     target_compile_options(tessaly_options INTERFACE -Werror)
 endif()
 if(TESSALY_SANITIZE)
-    target_compile_options(tessaly_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
-        -fno-omit-frame-pointer)
+    # Access through a null pointer ends in a report of the address sanitizer, too, and checking each pointer by itself
+    # takes a sixth of the time to compile.
+    target_compile_options(tessaly_options INTERFACE -fsanitize=address,undefined -fno-sanitize=null
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(tessaly_options INTERFACE -fsanitize=address,undefined)
     # Many programs with much debug information are linked: lld takes a third of the time of the usual linker.
     find_program(TESSALY_LLD ld.lld)
