@@ -210,6 +210,11 @@ public:
                 QStringLiteral("org.tessaly.Tessaly"));
         });
     }
+    void stopProgram()
+    {
+        m_program.terminate();
+        m_program.waitForFinished();
+    }
     qint64 program() const { return m_program.processId(); }
 
 private:
@@ -236,21 +241,22 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QThread::sleep(1); // the window manager takes over
     watcher.show(busyDesktop());
-    if (!session.startProgram())
-        return fail("the program does not take requests");
-    QThread::sleep(4); // it becomes quiet
-    FreeMemory::bringAtHand();
     Limits limits;
 
-    std::vector<double> openings;
-    for (int i = 0; i < 21; ++i) {
+    std::vector<double> firsts, openings;
+    for (int start = 0; start < 5; ++start) {
+        session.stopProgram();
+        if (!session.startProgram() || !becomesQuiet(session.program()))
+            return fail("the program does not take requests, or does not become quiet");
+        FreeMemory::bringAtHand();
+        firsts.push_back(opening(watcher).value_or(1e9));
+    }
+    limits.check("request to painted overlay, the first after a start, median", quantile(firsts, 0.5), 45, "ms");
+    for (int i = 0; i < 20; ++i) {
         const auto milliseconds = opening(watcher);
         if (!milliseconds)
             return fail("no overlay appeared, or it did not go");
-        if (i == 0)
-            limits.check("request to painted overlay, the first (ms)", *milliseconds, 45, "ms");
-        else
-            openings.push_back(*milliseconds);
+        openings.push_back(*milliseconds);
     }
     std::printf("from %.1f to %.1f ms\n", quantile(openings, 0), quantile(openings, 1));
     limits.check("request to painted overlay, median", quantile(openings, 0.5), 30, "ms");
