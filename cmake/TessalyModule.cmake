@@ -90,7 +90,7 @@ function(tessaly_test FOLDER)
         set(target "test_${name}")
         add_executable(${target} ${source})
         tessaly_moc_of_test(${target} ${source})
-        if(TESSALY_SANITIZE) # the code under test is checked; a test compiles in two thirds of the time without
+        if(TESSALY_SANITIZE) # the code under test is checked; the many tests compile sooner without
             set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS -fno-sanitize=undefined)
         endif()
         target_link_libraries(${target} PRIVATE ${module} tessaly_test_support Qt6::Test ${ARG_LIBS})
